@@ -1,0 +1,42 @@
+# What every target of this project shares: language level, warnings, visibility, sanitizers.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()
+if(OX_SANITIZE)
+  add_compile_options(-fsanitize=${OX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${OX_SANITIZE})
+endif()
+
+# One layer of the plug-in module: objects for the shared library, a link target for unit tests.
+function(ox_module_layer name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  add_library(ox_${name} STATIC ${arg_SOURCES})
+  target_include_directories(ox_${name} PUBLIC ${CMAKE_SOURCE_DIR}/module)
+  target_link_libraries(ox_${name} PUBLIC ${arg_LINK})
+endfunction()
+
+# Shared library whose dynamic symbol table holds the functions that `script` names and nothing
+# else; template instances of the standard library would leak out otherwise.
+function(ox_export_only target script)
+  if(NOT WIN32)
+    target_link_options(${target} PRIVATE -Wl,--version-script=${script})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+  endif()
+endfunction()

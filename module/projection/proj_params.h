@@ -1,0 +1,50 @@
+#pragma once
+/// The group "Projection": which projection, which zone, and its parameters. [ui]
+
+#include <array>
+#include <functional>
+
+#include "projection/projection_model.h"
+#include "toolkit/dropdown.h"
+#include "toolkit/labeled_element.h"
+#include "toolkit/layouts.h"
+#include "toolkit/numeric_input.h"
+
+namespace ox::element {
+
+class proj_params final : public toolkit::groupbox<4, 1> {
+public:
+    /// `model` outlives the group.
+    explicit proj_params(dialog::projection_model& model);
+
+    /// The user chose another projection or zone.
+    std::function<void()> on_choice;
+
+    /// Offers the projections and zones of the current type, and shows the current record's parameters.
+    void show_type();
+    /// Shows the numbers of the text that was classified last.
+    void show_text_values();
+
+    parameter_values values();
+    std::int32_t zone() { return static_cast<std::int32_t>(zone_.current_value().value_or(0)); }
+
+private:
+    using labeled_number = toolkit::labeled_element<toolkit::floating_input>;
+    using labeled_choice = toolkit::labeled_element<toolkit::dropdownex<unsigned int>>;
+
+    void show_projections();
+    void show_zones();
+    /// Which rows the current record asks for, with its limits and fixed values.
+    void show_parameters();
+    void projection_chosen(std::uint32_t index);
+    void zone_chosen(std::uint32_t index);
+
+    dialog::projection_model& model_;
+    toolkit::dropdownex<unsigned int> projection_;
+    labeled_choice zone_;
+    toolkit::grid_layout<1, 2> zone_row_;
+    std::array<labeled_number, parameter_rows.size()> inputs_;  ///< in the order of `parameter_rows`
+    toolkit::grid_layout<10, 2> rows_;
+};
+
+}  // namespace ox::element

@@ -1,0 +1,104 @@
+#pragma once
+/// Notifications inside the module; they never cross its border.
+
+#include <algorithm>
+#include <functional>
+#include <list>
+#include <memory>
+
+namespace ox {
+
+template <class Signature>
+class event;
+
+namespace events {
+
+/// The subscriber's end of a connection. Does nothing once the observer is gone.
+class connection_base {
+public:
+    virtual ~connection_base() = default;
+    virtual bool connected() const = 0;
+    /// The observer is never called again.
+    virtual void disconnect() = 0;
+    /// Marks the observer; the mark is for the owner of the callback to read.
+    virtual void block() = 0;
+    virtual void unblock() = 0;
+};
+
+/// Owned by the subscriber; the event and its connections refer to it weakly.
+struct observer {
+    bool blocked = false;
+    std::function<void()> callback;
+};
+
+using observer_list = std::list<std::weak_ptr<observer>>;
+
+inline auto is(const std::shared_ptr<observer>& wanted) {
+    return [&wanted](const std::weak_ptr<observer>& entry) { return entry.lock() == wanted; };
+}
+
+}  // namespace events
+
+template <>
+class event<void()> {
+public:
+    using observer = events::observer;
+
+    class connection_impl final : public events::connection_base {
+    public:
+        connection_impl(std::weak_ptr<observer> target, std::weak_ptr<events::observer_list> list)
+            : target_(std::move(target)), list_(std::move(list)) {}
+
+        bool connected() const override { return !target_.expired(); }
+        void disconnect() override {
+            const auto target = target_.lock();
+            const auto list = list_.lock();
+            if (target && list) list->remove_if(events::is(target));
+        }
+        void block() override { mark(true); }
+        void unblock() override { mark(false); }
+
+    private:
+        void mark(bool blocked) {
+            if (const auto target = target_.lock()) target->blocked = blocked;
+        }
+
+        std::weak_ptr<observer> target_;
+        std::weak_ptr<events::observer_list> list_;
+    };
+
+    /// Observers are called in the order of connection.
+    std::unique_ptr<events::connection_base> connect(const std::shared_ptr<observer>& target) {
+        observers_->push_back(target);
+        return std::make_unique<connection_impl>(target, observers_);
+    }
+
+    /// Callbacks may connect and disconnect meanwhile: who leaves is not called any more, who joins is
+    /// called from the next time on.
+    void fire() const {
+        const auto live = observers_;
+        const events::observer_list snapshot = *live;
+        for (const auto& entry : snapshot)
+            if (const auto target = entry.lock(); target && std::ranges::any_of(*live, events::is(target)))
+                target->callback();
+    }
+
+private:
+    std::shared_ptr<events::observer_list> observers_ = std::make_shared<events::observer_list>();
+};
+
+/// An observer together with its connection: calls `callback` on each event while it lives.
+class subscription {
+public:
+    subscription(event<void()>& source, std::function<void()> callback)
+        : observer_(std::make_shared<events::observer>(false, std::move(callback))),
+          connection_(source.connect(observer_)) {}
+
+    events::connection_base& connection() { return *connection_; }
+
+private:
+    std::shared_ptr<events::observer> observer_;
+    std::unique_ptr<events::connection_base> connection_;
+};
+
+}  // namespace ox
