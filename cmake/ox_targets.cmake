@@ -24,16 +24,21 @@ if(OX_SANITIZE)
   add_link_options(-fsanitize=${OX_SANITIZE})
 endif()
 
+if(WIN32)
+  include(ox_host_imports)
+endif()
+
 # One layer of the plug-in module: objects for the shared library, a link target for unit tests.
 function(ox_module_layer name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
   add_library(ox_${name} STATIC ${arg_SOURCES})
   target_include_directories(ox_${name} PUBLIC ${CMAKE_SOURCE_DIR}/module)
-  target_link_libraries(ox_${name} PUBLIC ${arg_LINK})
+  target_link_libraries(ox_${name} PUBLIC ${arg_LINK} $<$<BOOL:${WIN32}>:ox_host_imports>)
 endfunction()
 
 # Shared library whose dynamic symbol table holds the functions that `script` names and nothing
-# else; template instances of the standard library would leak out otherwise.
+# else; template instances of the standard library would leak out otherwise. On Windows only what is
+# declared dllexport leaves a library.
 function(ox_export_only target script)
   if(NOT WIN32)
     target_link_options(${target} PRIVATE -Wl,--version-script=${script})

@@ -1,6 +1,7 @@
 #include "projection/proj4_param.h"
 
 #include <cmath>
+#include <type_traits>
 
 #include "support/numbers.h"
 #include "support/text.h"

@@ -24,11 +24,11 @@ public:
     virtual void parse_value(std::string_view value) = 0;
 
     /// The proj4 key, and the other keys that are read when no token carries the first.
-    const std::string& name() const { return name_; }
-    const std::vector<std::string>& aliases() const { return aliases_; }
+    std::string_view name() const { return name_; }
+    const std::vector<std::string_view>& aliases() const { return aliases_; }
 
 protected:
-    explicit Tox_proj4_param(std::string_view name, std::initializer_list<std::string> aliases = {})
+    explicit Tox_proj4_param(std::string_view name, std::initializer_list<std::string_view> aliases = {})
         : name_(name), aliases_(aliases) {}
     Tox_proj4_param(const Tox_proj4_param&) = default;
     Tox_proj4_param& operator=(const Tox_proj4_param&) = default;
@@ -40,8 +40,8 @@ protected:
     std::string text_;
 
 private:
-    std::string name_;
-    std::vector<std::string> aliases_;
+    std::string_view name_;  // keys are literals
+    std::vector<std::string_view> aliases_;
 };
 
 /// A parameter with one value.
@@ -50,7 +50,7 @@ class Tox_proj4_param_of : public Tox_proj4_param {
 public:
     using value_type = T;
 
-    explicit Tox_proj4_param_of(std::string_view name, std::initializer_list<std::string> aliases = {})
+    explicit Tox_proj4_param_of(std::string_view name, std::initializer_list<std::string_view> aliases = {})
         : Tox_proj4_param(name, aliases) {}
 
     const T& value() const { return value_; }

@@ -1,6 +1,8 @@
 #include "projection/proj4_params.h"
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <vector>
 
 #include "support/text.h"

@@ -56,13 +56,22 @@ public:
         return found == texts_.end() ? nullptr : found->second.c_str();
     }
     std::vector<std::uint8_t> bitmap_file(std::uint32_t id) const override {
-        return read_whole(folder_ / ("bitmap_" + std::to_string(id) + ".bmp"));
+        return read_whole(file("bitmap_", id, ".bmp"));
     }
     std::vector<std::uint8_t> icon_file(std::uint32_t id) const override {
-        return read_whole(folder_ / ("icon_" + std::to_string(id) + ".ico"));
+        return read_whole(file("icon_", id, ".ico"));
+    }
+    std::optional<std::string> raw_text(std::uint32_t id) const override {
+        std::ifstream content(file("text_", id, ".txt"), std::ios::binary);
+        if (!content) return std::nullopt;
+        return std::string(std::istreambuf_iterator<char>(content), {});
     }
 
 private:
+    fs::path file(std::string kind, std::uint32_t id, const char* extension) const {
+        return folder_ / kind.append(std::to_string(id)).append(extension);
+    }
+
     fs::path folder_;
     std::map<std::uint32_t, std::wstring> texts_;
 };

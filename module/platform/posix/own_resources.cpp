@@ -46,6 +46,7 @@ public:
         return {std::begin(favourite_picture), std::end(favourite_picture)};
     }
     std::vector<std::uint8_t> icon_file(std::uint32_t) const override { return {}; }
+    std::optional<std::string> raw_text(std::uint32_t) const override { return std::nullopt; }
 };
 
 }  // namespace

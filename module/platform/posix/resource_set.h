@@ -2,7 +2,8 @@
 /// What a `resource_module` handle points at here: one module's texts and pictures.
 
 #include <cstdint>
-#include <span>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace ox::platform {
@@ -15,6 +16,8 @@ public:
     /// Contents of a picture file; empty when there is none.
     virtual std::vector<std::uint8_t> bitmap_file(std::uint32_t id) const = 0;
     virtual std::vector<std::uint8_t> icon_file(std::uint32_t id) const = 0;
+    /// Bytes of a raw text in whatever encoding; none when there is none.
+    virtual std::optional<std::string> raw_text(std::uint32_t id) const = 0;
 };
 
 /// Compiled into this plug-in.

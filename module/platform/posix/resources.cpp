@@ -26,6 +26,10 @@ const wchar_t* load_string(resource_module module, std::uint32_t id) {
     return module ? as_set(module)->text(id) : nullptr;
 }
 
+std::optional<std::string> load_raw_text(resource_module module, std::uint32_t id) {
+    return module ? as_set(module)->raw_text(id) : std::nullopt;
+}
+
 bitmap_buffer load_bitmap(resource_module module, std::uint32_t id) {
     return module ? read_picture(as_set(module)->bitmap_file(id), read_bitmap_file) : bitmap_buffer{};
 }

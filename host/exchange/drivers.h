@@ -1,0 +1,13 @@
+#pragma once
+/// The two directions behind the exchange interface.
+
+#include "exchange/exchange.h"
+
+namespace oxhost {
+
+import_counts import_with_gdal(const std::filesystem::path& source, const import_options& options,
+                               const std::function<void(new_scene&&)>& sink);
+void export_with_gdal(const std::filesystem::path& out, const std::filesystem::path& project_file,
+                      const std::string& crs, const std::function<std::optional<new_scene>()>& next);
+
+}  // namespace oxhost

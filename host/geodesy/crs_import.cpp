@@ -1,0 +1,134 @@
+#include "geodesy/crs_import.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include <proj_experimental.h>
+
+#include "geodesy/published_shifts.h"
+
+namespace oxhost {
+namespace {
+
+std::string trimmed(std::string_view text) {
+    const auto start = text.find_first_not_of(" \t\r\n\v\f");
+    if (start == text.npos) return {};
+    return std::string(text.substr(start, text.find_last_not_of(" \t\r\n\v\f") + 1 - start));
+}
+
+bool same_letters(std::string_view a, std::string_view b) {
+    return std::ranges::equal(
+        a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+}
+
+/// The horizontal, two-dimensional part of a CRS.
+pj_ptr horizontal(const PJ* crs_object) {
+    pj_ptr part(proj_get_type(crs_object) == PJ_TYPE_COMPOUND_CRS
+                    ? proj_crs_get_sub_crs(proj_context(), crs_object, 0)
+                    : proj_clone(proj_context(), crs_object));
+    if (part && proj_get_type(part.get()) != PJ_TYPE_BOUND_CRS) {
+        part.reset(proj_crs_demote_to_2D(proj_context(), nullptr, part.get()));
+    }
+    return part;
+}
+
+/// Longitude, latitude in the middle of the area of use.
+std::optional<point> middle(const PJ* system) {
+    double west = 0, south = 0, east = 0, north = 0;
+    if (!system || !proj_get_area_of_use(proj_context(), system, &west, &south, &east, &north, nullptr))
+        return {};
+    if (west < -1000) return {};  // PROJ's mark for an unknown area
+    if (east < west) east += 360;
+    return point{(west + east) / 2, (south + north) / 2};
+}
+
+/// The EPSG system that a definition without code, such as a projection file's, names.
+pj_ptr recognised(const PJ* system) {
+    int* confidence = nullptr;
+    const pj_list_ptr found(proj_identify(proj_context(), system, "EPSG", nullptr, &confidence));
+    const bool sure = found && proj_list_get_count(found.get()) > 0 && confidence[0] >= 90;
+    proj_int_list_destroy(confidence);
+    return pj_ptr(sure ? proj_list_get(proj_context(), found.get(), 0) : nullptr);
+}
+
+/// The system whose area of use and datum decide on the shift: itself, the one it names, or its datum's.
+pj_ptr with_area(pj_ptr system) {
+    if (middle(system.get())) return system;
+    if (pj_ptr named = recognised(system.get())) return named;
+    const pj_ptr base = geographic_base(system.get());
+    pj_ptr named_base = base ? recognised(base.get()) : nullptr;
+    return named_base ? std::move(named_base) : std::move(system);
+}
+
+}  // namespace
+
+std::optional<std::string> proj4_of(const PJ* crs_object) {
+    const pj_ptr system = horizontal(crs_object);
+    if (!system) return {};
+    const char* exported = proj_as_proj_string(proj_context(), system.get(), PJ_PROJ_5, nullptr);
+    if (!exported) return {};
+    proj4_text text{exported};
+    text.remove("type");
+    const bool bound = proj_get_type(system.get()) == PJ_TYPE_BOUND_CRS;
+    if (!bound && !text.has("datum") && !text.has("nadgrids")) {
+        const pj_ptr known = with_area(pj_ptr(proj_clone(proj_context(), system.get())));
+        const auto shifts = published_shifts(known.get());
+        if (const auto* shift = best_shift(shifts, middle(known.get()).value_or(point{NAN, NAN}))) {
+            text.set_shift(shift->values);
+        }
+    }
+    const std::string result = text.str();
+    if (!crs_of(result)->valid()) return {};
+    return result;
+}
+
+std::optional<std::string> import_crs(std::string_view identifier) {
+    const std::string name = trimmed(identifier);
+    if (name.empty()) return {};
+    const proj4_text tokens(name);
+    if (tokens.has("proj")) return crs_of(name)->valid() ? std::optional(name) : std::nullopt;
+    const pj_ptr system(proj_create(proj_context(), name.c_str()));
+    take_proj_complaint();
+    if (!system || !proj_is_crs(system.get())) return {};
+    // PROJ also takes the beginning of a name for the name.
+    const bool spelled_out = name.find_first_of(":[{=") != name.npos;
+    if (!spelled_out && !same_letters(name, proj_get_name(system.get()))) return {};
+    return proj4_of(system.get());
+}
+
+std::optional<std::string> epsg_code(std::string_view proj4) {
+    const auto system = crs_of(proj4);
+    if (!system->valid()) return {};
+    PJ_CONTEXT* const context = proj_context();
+    const pj_ptr unbound(proj_get_type(system->object.get()) == PJ_TYPE_BOUND_CRS
+                             ? proj_get_source_crs(context, system->object.get())
+                             : proj_clone(context, system->object.get()));
+    const pj_list_ptr candidates(proj_identify(context, unbound.get(), "EPSG", nullptr, nullptr));
+    const int count = candidates ? std::min(proj_list_get_count(candidates.get()), 100) : 0;
+    take_proj_complaint();
+
+    const auto own_shift = system->tokens.shift();
+    proj4_text shiftless = system->tokens;
+    shiftless.remove("towgs84");
+    std::optional<std::string> by_published_shift;
+    for (int i = 0; i < count; ++i) {
+        const pj_ptr candidate(proj_list_get(context, candidates.get(), i));
+        const char* number = proj_get_id_code(candidate.get(), 0);
+        const auto text = proj4_of(candidate.get());
+        if (!number || !text) continue;
+        const std::string code = std::string("EPSG:") + number;
+        if (equal(*text, proj4)) return code;
+        if (!own_shift || by_published_shift) continue;
+        proj4_text candidate_shiftless(*text);
+        candidate_shiftless.remove("towgs84");
+        if (!equal(candidate_shiftless.str(), shiftless.str())) continue;
+        const auto shifts = published_shifts(candidate.get());
+        const bool published = std::ranges::any_of(
+            shifts, [&](const auto& shift) { return same_shift(shift.values, *own_shift); });
+        if (published) by_published_shift = code;
+    }
+    return by_published_shift;
+}
+
+}  // namespace oxhost

@@ -1,0 +1,25 @@
+#pragma once
+/// Definitions from elsewhere as proj4 texts. The datum comes along: where PROJ's own text has none, or
+/// one for a wider area, the text carries the `towgs84` of the shift that PROJ takes to WGS 84 in the
+/// middle of the system's area of use (grids left aside). A named datum of the proj4 format stays. [ui]
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "geodesy/crs.h"
+
+namespace oxhost {
+
+/// "EPSG:28407", any other authority's code, a name, WKT or PROJJSON that PROJ understands, or a proj4
+/// text (which comes back trimmed). Nothing when it is unknown or no 2D map or lon/lat system.
+std::optional<std::string> import_crs(std::string_view identifier);
+
+/// The same for a CRS at hand.
+std::optional<std::string> proj4_of(const PJ* crs_object);
+
+/// "EPSG:n" when the database has this very system, its datum shift being one that is published for its
+/// datum; nothing otherwise.
+std::optional<std::string> epsg_code(std::string_view proj4);
+
+}  // namespace oxhost

@@ -1,0 +1,129 @@
+#include "geodesy/measure.h"
+
+#include <geodesic.h>
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "geodesy/crs.h"
+#include "geodesy/transformation.h"
+
+namespace oxhost {
+namespace {
+
+constexpr std::string_view wgs84_text = "+proj=longlat +datum=WGS84 +no_defs";
+
+class geodesics {
+public:
+    geodesics(double a, double rf) { geod_init(&model_, a, rf == 0 ? 0 : 1 / rf); }
+
+    double distance(point a, point b) const {
+        double metres = 0;
+        geod_inverse(&model_, a.y, a.x, b.y, b.x, &metres, nullptr, nullptr);
+        return metres;
+    }
+
+private:
+    geod_geodesic model_{};
+};
+
+/// The shape that a text puts its coordinates on, with the text's own longitude and latitude: the way
+/// back through the projection only.
+struct own_ellipsoid {
+    explicit own_ellipsoid(std::string_view proj4)
+        : system(crs_of(proj4)), shape(system->valid() ? ellipsoid_of(system->object.get()) : ellipsoid{}) {
+        if (!system->valid())
+            throw std::invalid_argument("projection \"" + system->text + "\": " + system->error);
+        const pj_ptr base = geographic_base(system->object.get());
+        const pj_ptr plain(proj_get_type(system->object.get()) == PJ_TYPE_BOUND_CRS
+                               ? proj_get_source_crs(proj_context(), system->object.get())
+                               : proj_clone(proj_context(), system->object.get()));
+        const pj_ptr way(
+            proj_create_crs_to_crs_from_pj(proj_context(), plain.get(), base.get(), nullptr, nullptr));
+        if (way) to_base.reset(proj_normalize_for_visualization(proj_context(), way.get()));
+    }
+
+    std::optional<polyline> longitudes_latitudes(const polyline& line) const {
+        if (!to_base) return {};
+        polyline result = line;
+        for (point& at : result) {
+            const PJ_COORD moved = proj_trans(to_base.get(), PJ_FWD, proj_coord(at.x, at.y, 0, 0));
+            at = {moved.xy.x, moved.xy.y};
+            if (!std::isfinite(at.x) || !std::isfinite(at.y) || std::abs(at.y) > 90) return {};
+        }
+        return result;
+    }
+
+    std::shared_ptr<const crs> system;
+    ellipsoid shape;
+    pj_ptr to_base;
+};
+
+/// Prepared once while the same text comes again and again.
+const own_ellipsoid& own_ellipsoid_of(std::string_view proj4) {
+    static std::unique_ptr<const own_ellipsoid> last;
+    if (!last || last->system->text != proj4) last = std::make_unique<const own_ellipsoid>(proj4);
+    return *last;
+}
+
+double largest_distance(const polyline& a, const polyline& b) {
+    double largest = 0;
+    for (std::size_t i = 0; i < a.size(); ++i) largest = std::max(largest, ground_distance(a[i], b[i]));
+    return largest;
+}
+
+}  // namespace
+
+double ground_distance(point a, point b) {
+    static const geodesics wgs84(6378137, 298.257223563);
+    return wgs84.distance(a, b);
+}
+
+std::optional<double> geodesic_length(const polyline& line, std::string_view proj4) {
+    const own_ellipsoid& own = own_ellipsoid_of(proj4);
+    const auto places = own.longitudes_latitudes(line);
+    if (!places) return {};
+    const geodesics ground(own.shape.a, own.shape.rf);
+    double metres = 0;
+    for (std::size_t i = 1; i < places->size(); ++i)
+        metres += ground.distance((*places)[i - 1], (*places)[i]);
+    return metres;
+}
+
+std::optional<polyline> to_wgs84(const polyline& line, std::string_view proj4) {
+    polyline result = line;
+    if (transformation::between(proj4, wgs84_text)->apply(result)) return {};
+    return result;
+}
+
+std::optional<line_shift> shift_between(const polyline& before, std::string_view source,
+                                        const polyline& after, std::string_view target) {
+    if (before.size() != after.size()) return {};
+    const auto ground_before = to_wgs84(before, source);
+    const auto ground_after = to_wgs84(after, target);
+    const auto own_before = own_ellipsoid_of(source).longitudes_latitudes(before);
+    const auto own_after = own_ellipsoid_of(target).longitudes_latitudes(after);
+    if (!ground_before || !ground_after || !own_before || !own_after) return {};
+    return line_shift{largest_distance(*ground_before, *ground_after),
+                      largest_distance(*own_before, *own_after)};
+}
+
+std::optional<double> length_distortion(const polyline& line, std::string_view proj4) {
+    const own_ellipsoid& own = own_ellipsoid_of(proj4);
+    const auto places = own.longitudes_latitudes(line);
+    if (!places) return {};
+    if (own.system->geographic) return 0;
+    const geodesics ground(own.shape.a, own.shape.rf);
+    double worst = 0;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        const double metres = ground.distance((*places)[i - 1], (*places)[i]);
+        if (metres < 0.1) continue;  // rounding would speak, not the projection
+        const double drawn =
+            std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y) * own.system->metres_per_unit;
+        worst = std::max(worst, std::abs(drawn / metres - 1));
+    }
+    return worst;
+}
+
+}  // namespace oxhost

@@ -1,0 +1,121 @@
+#include "geodesy/published_shifts.h"
+
+#include <array>
+#include <cmath>
+#include <map>
+
+namespace oxhost {
+namespace {
+
+PJ* wgs84() {
+    static const pj_ptr object(proj_create(proj_context(), "EPSG:4326"));
+    return object.get();
+}
+
+std::optional<published_shift> read_shift(const PJ* operation) {
+    published_shift shift{};
+    shift.values.resize(7);
+    if (!proj_coordoperation_get_towgs84_values(proj_context(), operation, shift.values.data(), 7, 0))
+        return {};
+    // published with at most nine decimals; PROJ's conversion of units leaves 0.7899999999999999
+    for (double& value : shift.values) value = std::round(value * 1e9) / 1e9;
+    const char* authority = proj_get_id_auth_name(operation, 0);
+    const char* code = proj_get_id_code(operation, 0);
+    if (!authority || !code) return {};  // put together by PROJ, published by nobody
+    shift.code = std::string(authority) + ':' + code;
+    shift.name = proj_get_name(operation);
+    const double accuracy = proj_coordoperation_get_accuracy(proj_context(), operation);
+    if (accuracy >= 0) shift.accuracy = accuracy;
+    proj_get_area_of_use(proj_context(), operation, &shift.west, &shift.south, &shift.east, &shift.north,
+                         nullptr);
+    return shift;
+}
+
+}  // namespace
+
+bool published_shift::covers(point at) const {
+    if (!(at.y >= south && at.y <= north)) return false;
+    const double longitude = std::remainder(at.x, 360);
+    return west <= east ? longitude >= west && longitude <= east : longitude >= west || longitude <= east;
+}
+
+std::vector<published_shift> published_shifts(const PJ* crs_object) {
+    std::vector<published_shift> shifts;
+    PJ_CONTEXT* const context = proj_context();
+    const pj_ptr base = geographic_base(crs_object);
+    if (!base || !wgs84()) return shifts;
+    const pj_factory_ptr factory(proj_create_operation_factory_context(context, nullptr));
+    double west = 0, south = 0, east = 0, north = 0;
+    if (proj_get_area_of_use(context, crs_object, &west, &south, &east, &north, nullptr) && west > -1000) {
+        proj_operation_factory_context_set_area_of_interest(context, factory.get(), west, south, east, north);
+    }
+    proj_operation_factory_context_set_spatial_criterion(context, factory.get(),
+                                                         PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
+    proj_operation_factory_context_set_grid_availability_use(context, factory.get(),
+                                                             PROJ_GRID_AVAILABILITY_IGNORED);
+    // a shift by way of a third system is nobody's publication, and looking for one takes seconds
+    proj_operation_factory_context_set_allow_use_intermediate_crs(context, factory.get(),
+                                                                  PROJ_INTERMEDIATE_CRS_USE_NEVER);
+    proj_operation_factory_context_set_allow_ballpark_transformations(context, factory.get(), 0);
+    const pj_list_ptr operations(proj_create_operations(context, base.get(), wgs84(), factory.get()));
+    const int count = operations ? proj_list_get_count(operations.get()) : 0;
+    for (int i = 0; i < count; ++i) {
+        const pj_ptr operation(proj_list_get(context, operations.get(), i));
+        if (auto shift = read_shift(operation.get())) shifts.push_back(*std::move(shift));
+    }
+    take_proj_complaint();
+    return shifts;
+}
+
+const std::vector<published_shift>& published_shifts(const ellipsoid& on) {
+    static std::map<std::pair<double, double>, std::vector<published_shift>> kept;
+    const auto [entry, fresh] = kept.try_emplace({on.a, on.rf});
+    if (!fresh) return entry->second;
+    PJ_CONTEXT* const context = proj_context();
+    const PJ_TYPE type = PJ_TYPE_GEOGRAPHIC_2D_CRS;
+    PROJ_CRS_LIST_PARAMETERS* const wanted = proj_get_crs_list_parameters_create();
+    wanted->types = &type;
+    wanted->typesCount = 1;
+    int count = 0;
+    PROJ_CRS_INFO** const list = proj_get_crs_info_list_from_database(context, "EPSG", wanted, &count);
+    proj_get_crs_list_parameters_destroy(wanted);
+    for (int i = 0; i < count; ++i) {
+        const pj_ptr system(
+            proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
+        if (!system) continue;
+        const ellipsoid own = ellipsoid_of(system.get());
+        if (std::abs(own.a - on.a) > 1e-3 || std::abs(own.rf - on.rf) > 1e-6) continue;
+        for (auto& shift : published_shifts(system.get())) entry->second.push_back(std::move(shift));
+    }
+    proj_crs_info_list_destroy(list);
+    return entry->second;
+}
+
+const published_shift* best_shift(const std::vector<published_shift>& shifts, point at) {
+    const published_shift* best = nullptr;
+    const auto error = [](const published_shift& shift) { return shift.accuracy.value_or(HUGE_VAL); };
+    for (const auto& shift : shifts) {
+        if (shift.covers(at) && (!best || error(shift) < error(*best))) best = &shift;
+    }
+    return best || shifts.empty() ? best : &shifts.front();
+}
+
+namespace {
+
+bool alike(const towgs84& a, const towgs84& b, double rotation_sign) {
+    // a centimetre; a thousandth of an arc-second or of 1 ppm: at most 3 cm on the ground
+    constexpr std::array<double, 7> tolerance{0.01, 0.01, 0.01, 1e-3, 1e-3, 1e-3, 2e-3};
+    for (std::size_t i = 0; i < tolerance.size(); ++i) {
+        const double sign = i >= 3 && i < 6 ? rotation_sign : 1;
+        if (!(std::abs(a[i] - sign * b[i]) <= tolerance[i])) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool same_shift(const towgs84& a, const towgs84& b) { return alike(a, b, 1); }
+
+bool rotations_reversed(const towgs84& a, const towgs84& b) { return alike(a, b, -1) && !alike(a, b, 1); }
+
+}  // namespace oxhost

@@ -1,0 +1,39 @@
+#pragma once
+/// Datum shifts to WGS 84 that the EPSG data set publishes, as far as `towgs84` can express them:
+/// geocentric translations and seven-parameter Helmert transformations, no grids. [ui]
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "geodesy/crs.h"
+#include "geometry/polyline.h"
+
+namespace oxhost {
+
+struct published_shift {
+    std::string code;  ///< such as "EPSG:5044"
+    std::string name;  ///< such as "Pulkovo 1942 to WGS 84 (20)"
+    towgs84 values;
+    std::optional<double> accuracy;   ///< metres
+    double west, south, east, north;  ///< area of use in degrees; west > east across the date line
+
+    bool covers(point longitude_latitude) const;
+};
+
+/// From the datum of a CRS, in the order in which PROJ prefers them for the CRS's area of use.
+std::vector<published_shift> published_shifts(const PJ* crs_object);
+
+/// From every datum on this ellipsoid.
+const std::vector<published_shift>& published_shifts(const ellipsoid& on);
+
+/// The one that PROJ itself takes at `at` (longitude, latitude): of those that cover the place the most
+/// accurate; the first of all when none covers it.
+const published_shift* best_shift(const std::vector<published_shift>& shifts, point at);
+
+/// Same numbers as published, to the last digit that a text of rounded parameters may lose.
+bool same_shift(const towgs84& a, const towgs84& b);
+/// Same translation and scale, rotations with opposite signs (not all of them zero).
+bool rotations_reversed(const towgs84& a, const towgs84& b);
+
+}  // namespace oxhost

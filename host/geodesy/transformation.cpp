@@ -1,0 +1,146 @@
+#include "geodesy/transformation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+#include <unordered_map>
+
+#include "geodesy/published_shifts.h"
+
+namespace oxhost {
+namespace {
+
+constexpr std::size_t most_kept = 256;
+
+[[noreturn]] void refuse(const crs& system, std::string_view side) {
+    throw std::invalid_argument(std::string(side) + " projection \"" + system.text + "\": " + system.error);
+}
+
+bool finite(const point& at) { return std::isfinite(at.x) && std::isfinite(at.y); }
+
+void transform(PJ* pipeline, polyline& line) {
+    if (line.empty()) return;
+    constexpr std::size_t stride = sizeof(point);
+    proj_errno_reset(pipeline);
+    proj_trans_generic(pipeline, PJ_FWD, &line[0].x, stride, line.size(), &line[0].y, stride, line.size(),
+                       nullptr, 0, 0, nullptr, 0, 0);
+}
+
+/// Within 180 degrees of the centre; a longitude on the seam stays.
+double wrap(double longitude, double centre) {
+    const double offset = longitude - centre;
+    if (std::abs(offset) <= 180 + 1e-10) return longitude;
+    return centre + offset - 360 * std::floor((offset + 180) / 360);
+}
+
+/// What is published about a side's shift.
+struct publication {
+    std::string label;               ///< name and code, where the numbers belong to one set only
+    std::optional<double> accuracy;  ///< metres; the worst of those that have these numbers
+};
+
+publication publication_of(const crs& system) {
+    publication found;
+    const auto canonical = system.tokens.canonical();
+    const auto text = canonical.find("towgs84");
+    if (text == canonical.end()) return found;
+    const auto shift = proj4_text("towgs84=" + text->second).shift().value_or(towgs84(7));
+    if (std::ranges::all_of(shift, [](double value) { return value == 0; })) {
+        // WGS 84 itself, or one of the many datums that are taken as equal to it
+        if (canonical.contains("ellps") && canonical.at("ellps") == "WGS84") found.accuracy = 0;
+        return found;
+    }
+    bool several = false;
+    for (const auto& published : published_shifts(ellipsoid_of(system.object.get()))) {
+        if (!same_shift(shift, published.values)) continue;
+        const std::string label = published.name + " (" + published.code + ')';
+        several = several || (!found.label.empty() && found.label != label);
+        found.label = label;
+        if (published.accuracy) found.accuracy = std::max(found.accuracy.value_or(0), *published.accuracy);
+    }
+    if (several) found.label.clear();
+    return found;
+}
+
+}  // namespace
+
+std::shared_ptr<const transformation> transformation::between(std::string_view source,
+                                                              std::string_view target) {
+    static std::unordered_map<std::string, std::shared_ptr<const transformation>> kept;
+    std::string key(source);
+    key.append(1, '\0').append(target);
+    if (const auto found = kept.find(key); found != kept.end()) return found->second;
+
+    const std::shared_ptr<transformation> made(new transformation);
+    made->source_ = crs_of(source);
+    made->target_ = crs_of(target);
+    if (!made->source_->valid()) refuse(*made->source_, "source");
+    if (!made->target_->valid()) refuse(*made->target_, "target");
+    made->needed_ = !equal(source, target);
+    take_proj_complaint();
+    const pj_ptr pipeline(proj_create_crs_to_crs_from_pj(proj_context(), made->source_->object.get(),
+                                                         made->target_->object.get(), nullptr, nullptr));
+    if (pipeline) made->pipeline_.reset(proj_normalize_for_visualization(proj_context(), pipeline.get()));
+    if (!made->pipeline_) {
+        throw std::invalid_argument("no transformation from \"" + made->source_->text + "\" to \"" +
+                                    made->target_->text + "\": " + take_proj_complaint());
+    }
+    if (kept.size() >= most_kept) kept.clear();
+    return kept[key] = made;
+}
+
+std::optional<vertex_failure> transformation::apply(polyline& line) const {
+    polyline result = line;
+    transform(pipeline_.get(), result);
+    bool good = true;
+    for (const point& at : result) good = good && finite(at);
+    // The longitude/latitude steps of PROJ take any number for a latitude.
+    if (source_->geographic) {
+        for (const point& at : line) good = good && std::abs(at.y) <= 90;
+    }
+    if (!good) return first_failure(line, result);
+    if (target_->lon_wrap) {
+        for (point& at : result) at.x = wrap(at.x, *target_->lon_wrap);
+    }
+    line = std::move(result);
+    return {};
+}
+
+std::optional<vertex_failure> transformation::first_failure(const polyline& before,
+                                                            const polyline& after) const {
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (!finite(before[i])) return vertex_failure{i, before[i], "coordinates are not finite numbers"};
+        if (source_->geographic && std::abs(before[i].y) > 90) {
+            return vertex_failure{i, before[i], "latitude is beyond 90 degrees"};
+        }
+        if (finite(after[i])) continue;
+        polyline alone{before[i]};
+        take_proj_complaint();
+        transform(pipeline_.get(), alone);
+        const int code = proj_errno(pipeline_.get());
+        std::string reason = code ? proj_context_errno_string(proj_context(), code) : "";
+        if (reason.empty()) reason = "no finite coordinates in the target projection";
+        return vertex_failure{i, before[i], reason};
+    }
+    return {};
+}
+
+operation_info transformation::operation() const {
+    const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));
+    const PJ_PROJ_INFO info = proj_pj_info(used ? used.get() : pipeline_.get());
+    operation_info operation;
+    operation.name = info.description ? info.description : "";
+    operation.definition = info.definition ? info.definition : "";
+    const publication source = publication_of(*source_);
+    const publication target = publication_of(*target_);
+    operation.source_shift = source.label;
+    operation.target_shift = target.label;
+    if (info.accuracy >= 0) {
+        operation.accuracy = info.accuracy;
+    } else if (source.accuracy && target.accuracy) {
+        operation.accuracy = *source.accuracy + *target.accuracy;
+    }
+    return operation;
+}
+
+}  // namespace oxhost

@@ -1,0 +1,49 @@
+#pragma once
+/// From one coordinate system to another. Lines are 2D: no height enters or leaves, also not between the
+/// two datum shifts of a pair. [ui]
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "geodesy/crs.h"
+#include "geometry/polyline.h"
+#include "session/journal.h"
+
+namespace oxhost {
+
+/// For reports.
+struct operation_info {
+    std::string name;
+    std::string definition;          ///< a PROJ pipeline
+    std::optional<double> accuracy;  ///< metres; PROJ's, else the sum of the published shifts' accuracies
+    std::string source_shift;  ///< published shift that the source's towgs84 is, with its code, or empty
+    std::string target_shift;
+};
+
+class transformation {
+public:
+    /// Prepared once per pair of texts and kept. Throws std::invalid_argument, with PROJ's reason, for
+    /// an empty or refused text or a pair without a way between.
+    static std::shared_ptr<const transformation> between(std::string_view source, std::string_view target);
+
+    /// False when both texts define the same coordinate system.
+    bool is_needed() const { return needed_; }
+    /// In place, all or nothing: when a vertex cannot be transformed or comes out non-finite, the line
+    /// is as it was and the answer names the first such vertex.
+    std::optional<vertex_failure> apply(polyline& line) const;
+    /// Where more than one operation serves the pair (NAD27), the one last used.
+    operation_info operation() const;
+
+private:
+    transformation() = default;
+    std::optional<vertex_failure> first_failure(const polyline& before, const polyline& after) const;
+
+    std::shared_ptr<const crs> source_;
+    std::shared_ptr<const crs> target_;
+    bool needed_ = true;
+    pj_ptr pipeline_;
+};
+
+}  // namespace oxhost

@@ -1,0 +1,49 @@
+#include "host_api/oxk_basic.h"
+
+#include <filesystem>
+#include <string>
+
+#include "session/border.h"
+#include "session/font.h"
+#include "session/language.h"
+#include "session/messages.h"
+#include "session/string_adapter.h"
+
+using namespace oxhost;
+
+namespace {
+
+constexpr int english_offset = 50000;
+
+}  // namespace
+
+void* ox_string_adp_create(void (*narrow)(const char*, void*), void (*wide)(const wchar_t*, void*),
+                           void* context) {
+    return at_border([&] { return new string_adapter{narrow, wide, context}; });
+}
+
+void ox_string_adp_destroy(void* adapter) { delete static_cast<string_adapter*>(adapter); }
+
+int ox_res_get_lng() { return current_language() == language::russian ? 0 : english_offset; }
+
+/// Topics have no other number than their help id.
+int ox_help_mngr_find_help_id(std::uint32_t help_id) { return static_cast<int>(help_id); }
+
+void ox_help_mngr_show_help(int, int found_help_id) {
+    at_border([&] {
+        std::string line(in_language("Раздел справки ", "Help topic "));
+        messages::instance().inform(line += std::to_string(found_help_id));
+    });
+}
+
+void ox_options_get_main_module_path(void* adapter) {
+    at_border([&] { deliver(adapter, std::filesystem::read_symlink("/proc/self/exe").string()); });
+}
+
+void ox_fnt_type_assign(void* destination_font, const void* source_font) {
+    if (!destination_font || !source_font) return;
+    at_border(
+        [&] { *static_cast<font_type*>(destination_font) = *static_cast<const font_type*>(source_font); });
+}
+
+void ox_fnt_type_destroy(void* font) { delete static_cast<font_type*>(font); }

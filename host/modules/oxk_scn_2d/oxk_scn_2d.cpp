@@ -1,0 +1,49 @@
+#include "host_api/oxk_scn_2d.h"
+
+#include "project/scene_updates.h"
+#include "session/border.h"
+#include "session/string_adapter.h"
+
+namespace {
+
+oxhost::project* as_project(void* collection) { return static_cast<oxhost::project*>(collection); }
+
+/// The handle of a scene is also that of its profile data.
+oxhost::scene* as_scene(void* handle) { return static_cast<oxhost::scene*>(handle); }
+
+}  // namespace
+
+std::uint32_t ox_scns_2d_get_size(void* collection) {
+    return collection ? static_cast<std::uint32_t>(as_project(collection)->size()) : 0;
+}
+
+void* ox_scns_2d_get(void* collection, std::uint32_t index) {
+    return collection ? as_project(collection)->at(index) : nullptr;
+}
+
+void ox_scn_2d_get_wcaption(void* scene, void* adapter) {
+    if (scene) oxhost::at_border([=] { oxhost::deliver(adapter, as_scene(scene)->caption); });
+}
+
+void* ox_scn_2d_get_prf_data_ptr(void* scene) {
+    return scene && as_scene(scene)->line ? as_scene(scene) : nullptr;
+}
+
+bool ox_prf_data_get_is_profil(void* data) { return data && as_scene(data)->profile; }
+
+void ox_prf_data_get_prj4string(void* data, void* adapter) {
+    if (!data) return;
+    oxhost::at_border([=] { oxhost::deliver(adapter, as_scene(data)->owner->proj4(*as_scene(data))); });
+}
+
+void ox_prf_data_set_prj4string(void* data, const wchar_t* proj4) {
+    oxhost::store_text(as_scene(data), proj4);
+}
+
+void* ox_prf_data_get_pv_ptr(void* data) {
+    return const_cast<oxhost::polyline*>(oxhost::lend_line(as_scene(data)));
+}
+
+void ox_prf_data_set_pv(void* data, void* pv) {
+    oxhost::store_line(as_scene(data), static_cast<const oxhost::polyline*>(pv));
+}

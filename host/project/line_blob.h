@@ -1,0 +1,53 @@
+#pragma once
+/// Lines as GeoPackage geometry blobs: a header ("GP", flags, srs_id, optional envelope) and a
+/// well-known-binary LineString. Both byte orders are read, little-endian is written. 2D only.
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+#include <vector>
+
+#include "geometry/polyline.h"
+
+namespace oxhost {
+
+/// Says what is wrong with a blob: "cut short", "a Point, not a LineString", ...
+struct blob_error : std::runtime_error {
+    using runtime_error::runtime_error;
+};
+
+/// Undefined cartesian: every scene has a projection of its own, written as text beside the line.
+inline constexpr std::int32_t undefined_cartesian_srs = -1;
+
+/// Smallest rectangle around points; empty (minimum above maximum) at first. Non-finite points are left out.
+struct extent {
+    double min_x = 1;
+    double min_y = 1;
+    double max_x = -1;
+    double max_y = -1;
+
+    bool empty() const { return min_x > max_x; }
+    void add(const point& p);
+    void add(const extent& other);
+};
+
+/// What is kept in memory of a line whose vertices stay in the file.
+struct line_summary {
+    std::size_t vertices = 0;
+    extent bounds;
+};
+
+line_summary summarize(std::span<const point> line);
+
+/// Replaces the content of `blob`. A line without vertices becomes LINESTRING EMPTY.
+void encode_line(std::span<const point> line, std::vector<std::byte>& blob);
+
+/// Replaces the content of `line`. Throws blob_error, and then leaves `line` alone: damaged blobs, other
+/// geometry types, lines with heights or measures.
+void decode_line(std::span<const std::byte> blob, polyline& line);
+
+/// The same checks without keeping the vertices.
+line_summary summarize_blob(std::span<const std::byte> blob);
+
+}  // namespace oxhost

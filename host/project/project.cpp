@@ -1,0 +1,254 @@
+#include "project/project.h"
+
+#include <utility>
+
+#include "project/schema.h"
+#include "project/store.h"
+
+namespace oxhost {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void check(sqlite::connection& db, const fs::path& file) {
+    if (const std::string reason = reason_to_refuse(db); !reason.empty()) refuse(file, reason);
+}
+
+/// A check that leaves no trace: the file is opened for reading only. A change that was cut off in its
+/// middle can only be undone, and the file judged, by opening it for writing.
+sqlite::connection open_checked(const fs::path& file, open_mode mode) {
+    sqlite::connection db(fs::absolute(file), SQLITE_OPEN_READONLY);
+    try {
+        db.run("BEGIN");
+        check(db, file);
+    } catch (const sqlite::error& e) {
+        if (mode != open_mode::read_write || e.code != SQLITE_READONLY_ROLLBACK) throw;
+    }
+    return db;
+}
+
+void bind_line(sqlite::statement& to, int parameter, const std::optional<std::vector<std::byte>>& blob) {
+    if (blob)
+        to.bind(parameter, std::span<const std::byte>(*blob));
+    else
+        to.bind_null(parameter);
+}
+
+}  // namespace
+
+project::project(std::unique_ptr<store> opened) : store_(std::move(opened)) { store_->load(*this); }
+
+project::~project() {
+    try {
+        close();
+    } catch (const project_error&) {  // the log stays beside the file, complete
+    }
+}
+
+std::unique_ptr<project> project::create(const fs::path& file) {
+    if (fs::exists(file)) refuse(file, "already exists");
+    auto made = std::make_unique<store>();
+    made->file = file;
+    made->mode = open_mode::read_write;
+    try {
+        made->db = {fs::absolute(file), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE};
+        made->created = true;
+        made->lock();
+        create_schema(made->db);
+        return std::unique_ptr<project>(new project(std::move(made)));
+    } catch (const sqlite::error& e) {
+        std::error_code ignored;
+        if (made && made->created) fs::remove(file, ignored);
+        refuse(file, "cannot be created: " + explain(e));
+    }
+}
+
+std::unique_ptr<project> project::open(const fs::path& file, open_mode mode) {
+    std::error_code ignored;
+    if (!fs::exists(file, ignored)) refuse(file, "no such file");
+    if (!fs::is_regular_file(file, ignored)) refuse(file, "is not a file");
+    auto opened = std::make_unique<store>();
+    opened->file = file;
+    opened->mode = mode;
+    try {
+        opened->db = open_checked(file, mode);
+        if (mode == open_mode::read_write) {
+            opened->db = {fs::absolute(file), SQLITE_OPEN_READWRITE};
+            if (sqlite3_db_readonly(opened->db.get(), "main") == 1) refuse(file, "cannot be written");
+            opened->lock();
+            check(opened->db, file);
+        } else if (mode == open_mode::scratch) {
+            sqlite::connection copy({}, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+            copy.copy_from(opened->db);
+            copy.run("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
+            opened->db = std::move(copy);
+        }
+        return std::unique_ptr<project>(new project(std::move(opened)));
+    } catch (const sqlite::error& e) {
+        refuse(file, explain(e));
+    }
+}
+
+void project::close() { store_->close(); }
+
+void project::discard() {
+    store_->changed = false;
+    store_->close();
+    if (store_->created) fs::remove(store_->file);
+}
+
+const fs::path& project::path() const { return store_->file; }
+open_mode project::mode() const { return store_->mode; }
+const std::deque<scene>& project::scenes() const { return store_->scenes; }
+scene* project::at(std::size_t index) { return index < size() ? &store_->scenes[index] : nullptr; }
+
+// ---- reading
+
+polyline project::read_line(const scene& of) {
+    polyline line;
+    try {
+        if (store_->read_blob(of)) decode_line(store_->buffer, line);
+    } catch (const sqlite::error& e) {
+        refuse(of, "line cannot be read: " + explain(e));
+    } catch (const blob_error& e) {
+        refuse(of, e.what());
+    }
+    return line;
+}
+
+const polyline* project::lend_line(scene& of) {
+    if (store_->open.of == &of && store_->open.line) return &*store_->open.line;
+    if (!of.line) return nullptr;
+    auto found = store_->lent.find(&of);
+    if (found == store_->lent.end()) found = store_->lent.emplace(&of, read_line(of)).first;
+    return &found->second;
+}
+
+const std::string& project::proj4(const scene& of) const {
+    return store_->open.of == &of && store_->open.text ? *store_->open.text : of.proj4;
+}
+
+// ---- changing
+
+void project::begin_update(scene& of) {
+    bracket& open = store_->open;
+    if (open.of == &of) {
+        ++open.depth;
+        return;
+    }
+    if (open.of) {
+        open.depth = 1;
+        end_update(*open.of);
+    }
+    open.of = &of;
+    open.depth = 1;
+}
+
+void project::set_line(scene& of, const polyline& line) {
+    if (store_->open.of != &of)
+        store_->write(of, &line, nullptr);
+    else if (!store_->open.abandoned)
+        store_->open.line = line;
+}
+
+void project::set_proj4(scene& of, std::string text) {
+    if (store_->open.of != &of)
+        store_->write(of, nullptr, &text);
+    else if (!store_->open.abandoned)
+        store_->open.text = std::move(text);
+}
+
+void project::end_update(scene& of) {
+    if (store_->open.of != &of || --store_->open.depth > 0) return;
+    const bracket done = std::exchange(store_->open, {});
+    store_->lent.erase(&of);
+    store_->write(of, done.line ? &*done.line : nullptr, done.text ? &*done.text : nullptr);
+}
+
+scene* project::updated_scene() const { return store_->open.of; }
+
+void project::abandon_update(scene& of) {
+    bracket& open = store_->open;
+    if (open.of != &of) return;
+    open.abandoned = true;
+    open.line.reset();
+    open.text.reset();
+}
+
+project::written project::last_written() const { return store_->last; }
+
+void project::append(std::span<const new_scene> added) {
+    std::vector<scene> rows;
+    rows.reserve(added.size());
+    try {
+        store_->prepare_writing();
+        sqlite::transaction change(store_->db);
+        sqlite::statement insert(
+            store_->db, "INSERT INTO scenes (caption, profile, proj4, geom) VALUES (?1, ?2, ?3, ?4)");
+        for (const new_scene& made : added) {
+            std::optional<std::vector<std::byte>> blob;
+            if (made.line) encode_line(*made.line, blob.emplace());
+            insert.bind(1, made.caption).bind(2, std::int64_t{made.profile}).bind(3, made.proj4);
+            bind_line(insert, 4, blob);
+            insert.run();
+            rows.push_back({.owner = this,
+                            .index = size() + rows.size(),
+                            .row = sqlite3_last_insert_rowid(store_->db.get()),
+                            .caption = made.caption,
+                            .profile = made.profile,
+                            .proj4 = made.proj4,
+                            .line = made.line ? std::optional(summarize(*made.line)) : std::nullopt});
+        }
+        change.commit();
+    } catch (const sqlite::error& e) {
+        refuse(path(), "scenes cannot be added: " + explain(e));
+    }
+    store_->changed = true;
+    for (scene& row : rows) store_->scenes.push_back(std::move(row));
+}
+
+scene_state project::state(std::size_t index) {
+    const scene* of = at(index);
+    if (!of) refuse(path(), "has no scene " + std::to_string(index));
+    scene_state now{index, of->caption, of->profile, of->proj4, std::nullopt};
+    try {
+        if (store_->read_blob(*of)) now.geometry = store_->buffer;
+    } catch (const sqlite::error& e) {
+        refuse(*of, "line cannot be read: " + explain(e));
+    }
+    return now;
+}
+
+void project::restore(std::span<const scene_state> states) {
+    std::vector<std::optional<line_summary>> lines;
+    lines.reserve(states.size());
+    try {
+        store_->prepare_writing();
+        sqlite::transaction change(store_->db);
+        sqlite::statement update(store_->db,
+                                 "UPDATE scenes SET caption=?1, profile=?2, proj4=?3, geom=?4 WHERE fid=?5");
+        for (const scene_state& state : states) {
+            const scene* of = at(state.index);
+            if (!of) refuse(path(), "has no scene " + std::to_string(state.index));
+            lines.push_back(state.geometry ? std::optional(summarize_blob(*state.geometry)) : std::nullopt);
+            update.bind(1, state.caption).bind(2, std::int64_t{state.profile}).bind(3, state.proj4);
+            bind_line(update, 4, state.geometry);
+            update.bind(5, of->row).run();
+        }
+        change.commit();
+    } catch (const sqlite::error& e) {
+        refuse(path(), "scenes cannot be restored: " + explain(e));
+    }
+    store_->changed = true;
+    for (std::size_t i = 0; i < states.size(); ++i) {
+        scene& of = *at(states[i].index);
+        of.caption = states[i].caption;
+        of.profile = states[i].profile;
+        of.proj4 = states[i].proj4;
+        of.line = lines[i];
+        store_->lent.erase(&of);
+    }
+}
+
+}  // namespace oxhost

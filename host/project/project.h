@@ -1,0 +1,145 @@
+#pragma once
+/// A project: 2D scenes with their section lines, stored in one GeoPackage file.
+///
+/// The table `scenes` has a row per scene: fid (order of the scenes), geom (LineString or NULL), caption,
+/// profile, proj4. GIS programs open it as a layer of undefined cartesian coordinates.
+///
+/// Kill-safety and speed. The first change switches the file to SQLite's write-ahead log with
+/// synchronous=NORMAL, and every update bracket is one statement, hence one transaction of its own: a
+/// commit is an append to PROJECT-wal without waiting for the disk, so ten thousand brackets cost little
+/// over one big update. A killed process leaves PROJECT-wal behind with all brackets committed so far;
+/// whoever opens the project next reads through it. A power cut may lose the last brackets, never halves of
+/// one. A clean close folds the log back and returns to journal_mode=DELETE: a single file remains. A
+/// project that was opened for writing but not changed keeps every byte.
+///
+/// A project open for writing is locked exclusively, which also spares the log its shared-memory file;
+/// others are told that it is in use. Vertices stay in the file and are read one line at a time.
+///
+/// Errors are project_error, one line that begins with the file. Single thread. [ui]
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "geometry/polyline.h"
+#include "project/line_blob.h"
+
+namespace oxhost {
+
+struct project_error : std::runtime_error {
+    using runtime_error::runtime_error;
+};
+
+class project;
+
+/// A scene in memory: all but its vertices. Its address is the scene handle, and the handle of its
+/// profile data as well. Lives as long as the open project.
+struct scene {
+    project* owner;
+    std::size_t index;  ///< position in the project, from 0
+    std::int64_t row;   ///< primary key in the file
+    std::string caption;
+    bool profile;
+    std::string proj4;                 ///< UTF-8; empty = no projection
+    std::optional<line_summary> line;  ///< empty = no line, hence no profile data
+};
+
+/// A scene to be added.
+struct new_scene {
+    std::string caption;
+    bool profile = true;
+    std::string proj4;
+    std::optional<polyline> line;
+};
+
+/// A scene as it was at one moment, to be put back by project::restore.
+struct scene_state {
+    std::size_t index;
+    std::string caption;
+    bool profile;
+    std::string proj4;
+    std::optional<std::vector<std::byte>> geometry;  ///< the blob as stored
+};
+
+enum class open_mode {
+    read_write,
+    read_only,  ///< not a byte changes; the scenes are those of the moment of opening
+    scratch  ///< a private copy in a temporary file that vanishes: free to change, the project stays as it is
+};
+
+class project {
+public:
+    /// Makes an empty project; `file` must not exist. Open for writing afterwards.
+    static std::unique_ptr<project> create(const std::filesystem::path& file);
+
+    /// Refuses, without touching them: missing and unreadable files, files that are no SQLite database, no
+    /// GeoPackage or no project, damaged ones, projects in use elsewhere.
+    static std::unique_ptr<project> open(const std::filesystem::path& file, open_mode mode);
+
+    ~project();  ///< closes; a failure to fold the log back loses nothing and is not reported
+    project(const project&) = delete;
+    project& operator=(const project&) = delete;
+
+    /// Refreshes the layer's extent if anything changed, folds the log back, releases the file. Throws
+    /// when that fails. Scenes stay readable as far as they are in memory.
+    void close();
+    /// Closes and deletes a project that `create` made: for a caller whose import failed.
+    void discard();
+
+    const std::filesystem::path& path() const;
+    open_mode mode() const;
+
+    const std::deque<scene>& scenes() const;
+    std::size_t size() const { return scenes().size(); }
+    scene* at(std::size_t index);  ///< null when out of range
+
+    /// The stored line, decoded now; empty when there is none.
+    polyline read_line(const scene& of);
+    /// The current line, pending changes included; null when there is none. Lent until the scene's line
+    /// changes or the bracket that reads it ends.
+    const polyline* lend_line(scene& of);
+    /// The current projection text, pending changes included.
+    const std::string& proj4(const scene& of) const;
+
+    /// Changes between begin_update and end_update reach the file together, at the end; outside a bracket
+    /// each reaches it at once. Brackets of one scene nest. Beginning another scene ends the open bracket
+    /// first. When the file refuses (disk full, read-only), end_update throws; memory then equals the file.
+    void begin_update(scene& of);
+    void set_line(scene& of, const polyline& line);
+    void set_proj4(scene& of, std::string text);
+    void end_update(scene& of);
+    scene* updated_scene() const;  ///< whose bracket is open; null when none is
+    /// Drops what the open bracket of the scene holds so far, and what it will be given yet.
+    void abandon_update(scene& of);
+    /// What the last end_update or direct change wrote.
+    struct written {
+        bool line = false;
+        bool text = false;
+    };
+    written last_written() const;
+
+    /// Adds all scenes at the end, or none.
+    void append(std::span<const new_scene> added);
+
+    scene_state state(std::size_t index);
+    /// Puts all states back, or none: one transaction.
+    void restore(std::span<const scene_state> states);
+
+private:
+    struct store;
+    explicit project(std::unique_ptr<store> opened);
+    std::unique_ptr<store> store_;
+};
+
+/// The project that the host's modules serve; null when none is open. Not owned.
+project* current_project();
+void set_current_project(project* opened);
+
+}  // namespace oxhost

@@ -1,0 +1,145 @@
+#include "project/store.h"
+
+#include "project/schema.h"
+
+namespace oxhost {
+
+namespace {
+
+/// Pages of the log after which it is folded back on the way: each time waits for the disk, and 32 MB of log
+/// are a fair price for fewer waits.
+constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpoint=8000; PRAGMA secure_delete=OFF";
+
+}  // namespace
+
+std::string explain(const sqlite::error& e) {
+    if (e.code == SQLITE_READONLY_ROLLBACK)
+        return "was left in the middle of a change: open it for writing once, then again";
+    switch (e.primary()) {
+        case SQLITE_NOTADB:
+            return "is no SQLite database";
+        case SQLITE_CORRUPT:
+            return std::string("is damaged (") + e.what() + ")";
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return "is open in another program";
+        case SQLITE_READONLY:
+        case SQLITE_PERM:
+            return "cannot be written";
+        case SQLITE_FULL:
+            return "no space left on the disk";
+        case SQLITE_CANTOPEN:
+            return "cannot be opened";
+        default:
+            return e.what();
+    }
+}
+
+void refuse(const std::filesystem::path& file, const std::string& reason) {
+    throw project_error(file.string() + ": " + reason);
+}
+
+void refuse(const scene& of, const std::string& reason) {
+    refuse(of.owner->path(), "scene " + std::to_string(of.index) + " \"" + of.caption + "\": " + reason);
+}
+
+void project::store::load(project& owner) {
+    register_envelope_functions(db);
+    sqlite::statement rows(db, "SELECT fid, caption, profile, proj4, geom FROM scenes ORDER BY fid");
+    while (rows.step()) {
+        scene& row = scenes.emplace_back(scene{.owner = &owner,
+                                               .index = scenes.size(),
+                                               .row = rows.integer(0),
+                                               .caption = rows.text(1),
+                                               .profile = rows.integer(2) != 0,
+                                               .proj4 = rows.text(3),
+                                               .line = std::nullopt});
+        try {
+            if (!rows.is_null(4)) row.line = summarize_blob(rows.blob(4));
+        } catch (const blob_error& e) {
+            refuse(row, e.what());
+        }
+    }
+    read_geometry = {db, "SELECT geom FROM scenes WHERE fid=?1"};
+    write_line = {db, "UPDATE scenes SET geom=?2 WHERE fid=?1"};
+    write_text = {db, "UPDATE scenes SET proj4=?3 WHERE fid=?1"};
+    write_both = {db, "UPDATE scenes SET geom=?2, proj4=?3 WHERE fid=?1"};
+}
+
+/// Takes the lock that is held until the file is closed, without writing a byte.
+void project::store::lock() {
+    db.run("PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
+    logging = db.ask("PRAGMA journal_mode") == "wal";  // left on by a killed process
+    if (logging) db.run(log_settings);
+}
+
+void project::store::prepare_writing() {
+    if (!db.get()) refuse(file, "is closed");
+    if (mode == open_mode::read_only) refuse(file, "is open for reading only");
+    if (mode == open_mode::scratch || logging) return;
+    read_geometry.reset();  // the journal mode only changes while no statement runs
+    if (db.ask("PRAGMA journal_mode=WAL") != "wal") refuse(file, "cannot keep a write-ahead log");
+    logging = true;
+    db.run(log_settings);
+}
+
+/// The stored geometry in `buffer`; false when there is none.
+bool project::store::read_blob(const scene& of) {
+    if (!db.get()) refuse(file, "is closed");
+    read_geometry.bind(1, of.row);
+    const bool found = read_geometry.step() && !read_geometry.is_null(0);
+    if (found) {
+        const auto blob = read_geometry.blob(0);
+        buffer.assign(blob.begin(), blob.end());
+    }
+    read_geometry.reset();
+    return found;
+}
+
+void project::store::write(scene& of, const polyline* line, const std::string* text) {
+    last = {};
+    if (!line && !text) return;
+    try {
+        prepare_writing();
+        sqlite::statement& update = line && text ? write_both : line ? write_line : write_text;
+        update.bind(1, of.row);
+        if (line) {
+            encode_line(*line, buffer);
+            update.bind(2, std::span<const std::byte>(buffer));
+        }
+        if (text) update.bind(3, *text);
+        update.run();
+    } catch (const sqlite::error& e) {
+        refuse(of, "cannot be stored: " + explain(e));
+    }
+    changed = true;
+    last = {.line = line != nullptr, .text = text != nullptr};
+    lent.erase(&of);
+    if (line) of.line = summarize(*line);
+    if (text) of.proj4 = *text;
+}
+
+void project::store::close() {
+    if (!db.get()) return;
+    open = {};
+    lent.clear();
+    std::string failure;
+    try {
+        if (changed && mode == open_mode::read_write) {
+            extent bounds;
+            for (const scene& of : scenes)
+                if (of.line) bounds.add(of.line->bounds);
+            refresh_layer(db, bounds);
+        }
+        for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};
+        if (logging && db.ask("PRAGMA journal_mode=DELETE") != "delete")
+            failure = "its changes stay in the log beside it";
+    } catch (const sqlite::error& e) {
+        failure = "its changes stay in the log beside it: " + explain(e);
+    }
+    for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};
+    db.close();
+    if (!failure.empty()) refuse(file, failure);
+}
+
+}  // namespace oxhost

@@ -1,0 +1,51 @@
+#pragma once
+/// The open file behind a project; only project's own sources include this.
+
+#include <unordered_map>
+
+#include "project/project.h"
+#include "project/sqlite.h"
+
+namespace oxhost {
+
+/// What went wrong, as the end of a line that begins with a file's name.
+std::string explain(const sqlite::error& e);
+
+[[noreturn]] void refuse(const std::filesystem::path& file, const std::string& reason);
+[[noreturn]] void refuse(const scene& of, const std::string& reason);
+
+/// What one scene has been given since its bracket was opened.
+struct bracket {
+    scene* of = nullptr;
+    int depth = 0;
+    bool abandoned = false;
+    std::optional<polyline> line;
+    std::optional<std::string> text;
+};
+
+struct project::store {
+    std::filesystem::path file;
+    open_mode mode = open_mode::read_only;
+    bool created = false;
+    bool logging = false;  ///< the write-ahead log is on
+    bool changed = false;
+    sqlite::connection db;
+    std::deque<scene> scenes;
+    bracket open;
+    written last;
+    std::unordered_map<const scene*, polyline> lent;
+    std::vector<std::byte> buffer;
+    sqlite::statement read_geometry;
+    sqlite::statement write_line;
+    sqlite::statement write_text;
+    sqlite::statement write_both;
+
+    void load(project& owner);
+    void lock();
+    void prepare_writing();
+    bool read_blob(const scene& of);
+    void write(scene& of, const polyline* line, const std::string* text);
+    void close();
+};
+
+}  // namespace oxhost

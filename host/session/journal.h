@@ -1,0 +1,50 @@
+#pragma once
+/// What the host's own functions saw while a module worked: the source of reports.
+/// The modules of the host write it, the command line reads it; one per process. [ui]
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "geometry/polyline.h"
+
+namespace oxhost {
+
+/// The vertex at which a transformation gave up.
+struct vertex_failure {
+    std::size_t vertex;  ///< counted from 0
+    point at;            ///< in the source projection
+    std::string reason;  ///< as the projection library puts it
+};
+
+/// One update bracket of one scene.
+struct scene_update {
+    std::size_t scene;  ///< index in the project
+    bool line_stored = false;
+    bool text_stored = false;
+    std::optional<std::string> setup_failure;  ///< the pair of projections was refused
+    std::optional<vertex_failure> transform_failure;
+    std::optional<std::string> store_failure;  ///< the project file refused the change
+};
+
+class journal {
+public:
+    static journal& instance();
+
+    void clear() {
+        updates_.clear();
+        open_ = false;
+    }
+    void begin(std::size_t scene);  ///< opens the record of a scene's update
+    void end() { open_ = false; }
+    /// The record being written, or null outside a bracket.
+    scene_update* current() { return open_ ? &updates_.back() : nullptr; }
+    const std::vector<scene_update>& updates() const { return updates_; }
+
+private:
+    std::vector<scene_update> updates_;
+    bool open_ = false;
+};
+
+}  // namespace oxhost

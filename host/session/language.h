@@ -1,0 +1,28 @@
+#pragma once
+/// The language in which the host and its modules speak to the user; one per process.
+
+#include <optional>
+#include <string_view>
+
+namespace oxhost {
+
+enum class language { russian, english };
+
+/// "ru" or "en", as the command line spells them.
+std::optional<language> parse_language(std::string_view code);
+
+/// What the environment asks for: Russian when the first set one of LC_ALL, LC_MESSAGES, LANG names a
+/// Russian locale, English otherwise.
+language environment_language();
+
+/// The chosen language, else the environment's.
+language current_language();
+/// Nothing goes back to the environment's.
+void choose_language(std::optional<language> chosen);
+
+/// The one of two texts that the user reads.
+inline std::string_view in_language(std::string_view russian, std::string_view english) {
+    return current_language() == language::russian ? russian : english;
+}
+
+}  // namespace oxhost

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# From a fresh checkout to a reprojected sample project: installs, builds, imports, lists, reprojects.
+source "$(dirname "${BASH_SOURCE[0]}")/step.sh"
+
+scripts/setup.sh
+step "Configuring build/release" cmake --preset release -DBUILD_TESTING=OFF
+step "Building" cmake --build --preset release --parallel "$(nproc)"
+
+oxhost=build/release/oxhost
+project=out/sample.gpkg
+mkdir -p out
+rm -f "$project" "$project"-*  # with the journal of a run that was cut off
+step "Importing samples/*.geojson" "$oxhost" import "$project" samples/*.geojson
+"$oxhost" list "$project"
+"$oxhost" reproject "$project" --all --yes --to EPSG:32640 --report out/report.json --map out/map.svg
+
+echo "Project: $project"
+echo "Report:  out/report.json"
+echo "Map:     out/map.svg"

@@ -1,0 +1,95 @@
+#include "catalogue/catalogue_tables.h"
+
+#include <stdexcept>
+
+#include "support/text.h"
+
+namespace catalogue_test {
+namespace {
+
+struct numeric_parameter {
+    ox::Tox_pj_dbl ox::Tox_pj_proj::*slot;
+    ox::Tox_proj4_param_dbl ox::Tox_proj4_params::*parameter;
+    double plausible;
+};
+
+constexpr numeric_parameter numeric_parameters[] = {
+    {&ox::Tox_pj_proj::lon_0, &ox::Tox_proj4_params::lon_0, 45},
+    {&ox::Tox_pj_proj::lonc, &ox::Tox_proj4_params::lonc, 45},
+    {&ox::Tox_pj_proj::lat_0, &ox::Tox_proj4_params::lat_0, 50},
+    {&ox::Tox_pj_proj::lat_1, &ox::Tox_proj4_params::lat_1, 50},
+    {&ox::Tox_pj_proj::lat_ts, &ox::Tox_proj4_params::lat_ts, 70},
+    {&ox::Tox_pj_proj::lat_2, &ox::Tox_proj4_params::lat_2, 56},
+    {&ox::Tox_pj_proj::k_0, &ox::Tox_proj4_params::k_0, 0.9996},
+    {&ox::Tox_pj_proj::alpha, &ox::Tox_proj4_params::alpha, 30},
+    {&ox::Tox_pj_proj::x_0, &ox::Tox_proj4_params::x_0, 500000},
+    {&ox::Tox_pj_proj::y_0, &ox::Tox_proj4_params::y_0, 100000},
+};
+
+tables load() {
+    tables all;
+    all.sources = oxhost::read_catalogue_sources(OX_CATALOGUE_SOURCES);
+    const auto path = [](const char* table) { return std::string(OX_CATALOGUE_TABLES "/") + table; };
+    load_ellps(path(ox::ellps_table), all.ellps);
+    load_datums(path(ox::datums_table), all.datums);
+    load_projections(path(ox::usual_projections_table), all.usual);
+    load_projections(path(ox::zonal_projections_table), all.zonal);
+    if (all.ellps.size() != all.sources.ellipsoids.size() || all.datums.size() != all.sources.datums.size() ||
+        all.usual.size() != all.sources.usual.size() || all.zonal.size() != all.sources.zonal.size()) {
+        throw std::runtime_error("the tables do not have the rows of their sources");
+    }
+    return all;
+}
+
+}  // namespace
+
+const tables& built() {
+    static const tables all = load();
+    return all;
+}
+
+const ox::Tox_pj_ellps& ellps_of(const ox::Tox_pj_datum& datum) {
+    const auto* ellps = find_by_id(built().ellps, datum.ellps_id);
+    if (!ellps) throw std::runtime_error(datum.name + " has no ellipsoid");
+    return *ellps;
+}
+
+std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& inputs,
+                    const ox::Tox_pj_datum* datum, const ox::Tox_pj_ellps* ellps) {
+    ox::Tox_proj4_params text;
+    text.proj.set(record.proj);
+    if (record.zone.used && ox::equal_no_case(record.proj, "utm")) text.zone.set(record.zone.value);
+    for (const auto& p : numeric_parameters) {
+        const auto& slot = record.*p.slot;
+        if (slot.used) (text.*p.parameter).set(slot.has_value ? slot.value : (inputs.*p.parameter).value());
+    }
+    if (record.south.used) text.south.set(record.south.value);
+    if (record.units.used) text.units.set(record.units.text);
+    if (datum && !datum->code.empty()) {
+        text.datum.set(datum->code);
+    } else if (datum) {
+        text.towgs84.set(datum->towgs84());
+    }
+    if (ellps && !ellps->code.empty()) {
+        text.ellps.set(ellps->code);
+    } else if (ellps) {
+        text.a.set(ellps->a);
+        if (ellps->has_b) text.b.set(ellps->b);
+        if (ellps->has_rf) text.rf.set(ellps->rf);
+    }
+    text.compose();
+    return text.text();
+}
+
+ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record) {
+    ox::Tox_proj4_params inputs;
+    for (const auto& p : numeric_parameters) {
+        const auto& slot = record.*p.slot;
+        const bool within =
+            (!slot.has_min || p.plausible >= slot.min) && (!slot.has_max || p.plausible <= slot.max);
+        (inputs.*p.parameter).set_value(within ? p.plausible : (slot.min + slot.max) / 2);
+    }
+    return inputs;
+}
+
+}  // namespace catalogue_test

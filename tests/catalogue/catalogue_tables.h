@@ -1,0 +1,32 @@
+#pragma once
+/// The built tables, read back by the product, beside the sources that they were made of.
+
+#include "catalogue/records.h"
+#include "projection/proj4_params.h"
+#include "support/catalogue.h"
+
+namespace catalogue_test {
+
+/// Row i of a list was made of record i of the sources.
+struct tables {
+    oxhost::catalogue_records sources;
+    ox::Tox_pj_ellps_list ellps;
+    ox::Tox_pj_datum_list datums;
+    ox::Tox_pj_proj_list usual, zonal;
+};
+
+/// Loaded once; a table that does not load is left empty, which every check of its rows refuses.
+const tables& built();
+
+/// The ellipsoid of a datum.
+const ox::Tox_pj_ellps& ellps_of(const ox::Tox_pj_datum& datum);
+
+/// What the projection dialog composes from a record when its inputs hold the values of `inputs`.
+/// Null leaves datum or ellipsoid out.
+std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& inputs,
+                    const ox::Tox_pj_datum* datum, const ox::Tox_pj_ellps* ellps);
+
+/// Values that a person might enter, within the record's limits.
+ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record);
+
+}  // namespace catalogue_test

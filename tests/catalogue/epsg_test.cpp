@@ -1,0 +1,236 @@
+/// Every row with an EPSG or PROJ source against what PROJ itself has under that name.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "catalogue/catalogue_tables.h"
+#include "catalogue/proj_objects.h"
+#include "support/numbers.h"
+
+namespace catalogue_test {
+namespace {
+
+constexpr double millimetre = 0.001;
+
+std::string printed(double value, int digits = 12) {
+    std::string text;
+    ox::append_general(text, value, digits);
+    return text;
+}
+
+/// Equal, or equal to all digits of a text of 12 and more, for what PROJ computes from another unit.
+void expect_number(const std::string& text, double value, const std::string& what) {
+    const double number = ox::scan_double(text).value();
+    const auto digits = std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; });
+    if (digits < 12 || number == value) {
+        EXPECT_EQ(number, value) << what;
+    } else {
+        EXPECT_EQ(printed(number, static_cast<int>(digits)), printed(value, static_cast<int>(digits)))
+            << what;
+    }
+}
+
+TEST(CatalogueEllipsoids, AxesAreThoseOfEpsg) {
+    for (const auto& record : built().sources.ellipsoids) {
+        const auto code = code_after("EPSG:", record.source);
+        if (!code) continue;
+        const auto what = record.place + " " + record.source;
+        const auto object = epsg(*code, PJ_CATEGORY_ELLIPSOID);
+        double a = 0, b = 0, rf = 0;
+        ASSERT_TRUE(proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, object.get(), &a, &b, nullptr, &rf))
+            << what;
+        expect_number(record.text("A"), a, what);
+        if (!record.text("B").empty()) expect_number(record.text("B"), b, what);
+        if (!record.text("RF").empty()) expect_number(record.text("RF"), rf, what);
+    }
+}
+
+TEST(CatalogueEllipsoids, HoldEveryCodeOfProjAsPublished) {
+    std::set<std::string> codes;
+    for (const auto* published = proj_list_ellps(); published->id; ++published) {
+        codes.insert(published->id);
+        const auto* row = find_ellps_by_code(built().ellps, published->id);
+        ASSERT_TRUE(row) << published->id;
+        const auto published_number = [](const char* text) {
+            return ox::scan_double(std::string(text).substr(text[1] == 'f' ? 3 : 2));
+        };
+        EXPECT_EQ(row->a, published_number(published->major)) << published->id;
+        EXPECT_EQ(published->ell[0] == 'b' ? row->b : row->rf, published_number(published->ell))
+            << published->id;
+    }
+    for (std::size_t i = 0; i < built().ellps.size(); ++i) {
+        const auto& code = built().ellps[i].code;
+        EXPECT_TRUE(code.empty() || codes.contains(code)) << code << " is no ellipsoid of PROJ";
+    }
+}
+
+/// The seven Position Vector numbers of an operation, in the units of towgs84; `exact` says which of them
+/// are published in those units.
+struct published_shift {
+    std::array<double, 7> values{};
+    std::array<bool, 7> exact;
+};
+
+published_shift shift_of(const PJ* operation) {
+    static const double units[] = {1, M_PI / 180 / 3600, 1e-6};
+    published_shift shift;
+    shift.exact.fill(true);
+    const char* method = "";
+    proj_coordoperation_get_method_info(PJ_DEFAULT_CTX, operation, &method, nullptr, nullptr);
+    const bool turned = std::string(method).find("Coordinate Frame") != std::string::npos;
+    for (int i = 0; i < proj_coordoperation_get_param_count(PJ_DEFAULT_CTX, operation); ++i) {
+        const char* code = "";
+        double value = 0, factor = 0;
+        proj_coordoperation_get_param(PJ_DEFAULT_CTX, operation, i, nullptr, nullptr, &code, &value, nullptr,
+                                      &factor, nullptr, nullptr, nullptr, nullptr);
+        // EPSG parameters 8605 to 8611: translations, rotations, scale difference.
+        const int place = ox::scan_int(code).value_or(0) - 8605;
+        if (place < 0 || place > 6) continue;
+        const auto at = static_cast<std::size_t>(place);
+        const double ratio = factor / units[at / 3];
+        shift.exact[at] = std::abs(ratio - 1) < 1e-9;
+        shift.values[at] = (turned && at / 3 == 1 ? -1 : 1) * value * (shift.exact[at] ? 1 : ratio);
+    }
+    return shift;
+}
+
+TEST(CatalogueDatums, NumbersAreThoseOfTheEpsgOperation) {
+    for (std::size_t row = 0; row < built().datums.size(); ++row) {
+        const auto& datum = built().datums[row];
+        const auto& source = built().sources.datums[row].source;
+        const auto code = code_after("EPSG:", source);
+        if (!code) continue;
+        const auto operation = epsg(*code, PJ_CATEGORY_COORDINATE_OPERATION);
+        ASSERT_TRUE(operation) << source;
+        const auto published = shift_of(operation.get());
+        for (std::size_t i = 0; i < 7; ++i) {
+            const double number = datum.towgs84()[i];
+            EXPECT_TRUE(number == published.values[i] ||
+                        (!published.exact[i] && printed(number) == printed(published.values[i])))
+                << datum.name << ", " << source << ", number " << i << ": " << printed(number, 17)
+                << " instead of " << printed(published.values[i], 17);
+        }
+    }
+}
+
+TEST(CatalogueDatums, EllipsoidIsThatOfTheEpsgOperation) {
+    for (std::size_t row = 0; row < built().datums.size(); ++row) {
+        const auto& datum = built().datums[row];
+        const auto code = code_after("EPSG:", built().sources.datums[row].source);
+        if (!code) continue;
+        const auto operation = epsg(*code, PJ_CATEGORY_COORDINATE_OPERATION);
+        const proj_object crs(proj_get_source_crs(PJ_DEFAULT_CTX, operation.get()));
+        const proj_object ellipsoid(proj_get_ellipsoid(PJ_DEFAULT_CTX, crs.get()));
+        double a = 0, b = 0;
+        ASSERT_TRUE(proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, ellipsoid.get(), &a, &b, nullptr, nullptr));
+        const auto& ellps = ellps_of(datum);
+        EXPECT_NEAR(ellps.a, a, millimetre) << datum.name;
+        EXPECT_NEAR(ellps.has_b ? ellps.b : ellps.a * (1 - 1 / ellps.rf), b, millimetre) << datum.name;
+    }
+}
+
+TEST(CatalogueDatums, OfProjShiftAsTheirNamesDo) {
+    for (std::size_t row = 0; row < built().datums.size(); ++row) {
+        const auto& datum = built().datums[row];
+        const auto& source = built().sources.datums[row].source;
+        const auto name = code_after("PROJ +datum=", source);
+        if (!name) continue;
+        EXPECT_EQ(datum.code, *name);
+        std::array<PJ_COORD, 2> shifted;
+        auto numbers = datum;
+        numbers.code.clear();
+        ox::Tox_pj_proj geographic;
+        geographic.proj = "longlat";
+        for (std::size_t i = 0; i < 2; ++i) {
+            const auto text = compose(geographic, {}, i == 0 ? &datum : &numbers, &ellps_of(datum));
+            const proj_object to_wgs84(proj_create_crs_to_crs(
+                PJ_DEFAULT_CTX, (text + " +type=crs").c_str(),
+                "+proj=longlat +datum=WGS84 +lon_wrap=45 +no_defs +type=crs", nullptr));
+            ASSERT_TRUE(to_wgs84) << text;
+            shifted[i] = proj_trans(to_wgs84.get(), PJ_FWD, proj_coord(10, 52, 0, 0));
+        }
+        EXPECT_NEAR(shifted[0].xy.x, shifted[1].xy.x, 1e-9) << datum.name;
+        EXPECT_NEAR(shifted[0].xy.y, shifted[1].xy.y, 1e-9) << datum.name;
+    }
+}
+
+/// Each on its own datum: a shift plays no part.
+void expect_same_projection(const PJ* expected_crs, const std::string& text, double longitude,
+                            double latitude, const std::string& what) {
+    const auto expected = project(expected_crs, longitude, latitude);
+    const auto actual = project(crs_of_text(text).get(), longitude, latitude);
+    ASSERT_TRUE(expected && actual) << what << ": " << text;
+    EXPECT_NEAR(actual->x, expected->x, millimetre) << what << ": " << text;
+    EXPECT_NEAR(actual->y, expected->y, millimetre) << what << ": " << text;
+}
+
+/// 39 of "7 (CM 39E)", -171 of "2N (CM 171W)".
+double named_meridian(const std::string& zone_name) {
+    const auto degrees = ox::scan_double(zone_name.substr(zone_name.find("CM") + 2)).value();
+    return zone_name.ends_with("W)") ? -degrees : degrees;
+}
+
+TEST(CatalogueZones, ProjectAsTheirEpsgSystems) {
+    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
+        const auto& record = built().zonal[row];
+        const auto& source = built().sources.zonal[row];
+        const auto code = code_after("EPSG:", source.source);
+        if (!code) continue;
+        const auto crs = epsg(*code, PJ_CATEGORY_CRS);
+        ASSERT_TRUE(crs) << source.source;
+        const auto* datum = find_datum_by_name(built().datums, record.datum.text);
+        ASSERT_TRUE(datum) << record.name;
+        const double meridian = named_meridian(record.zone_n.text);
+        const auto middle = project(crs.get(), meridian, 0);
+        ASSERT_TRUE(middle) << source.source;
+        EXPECT_NEAR(middle->x, record.x_0.used ? record.x_0.value : 500000, millimetre)
+            << source.source << " is not zone " << record.zone_n.text;
+        expect_same_projection(crs.get(), compose(record, {}, nullptr, &ellps_of(*datum)), meridian + 2,
+                               record.south.used ? -33 : 55, source.source);
+    }
+}
+
+TEST(CatalogueZones, DatumBelongsToTheEpsgSystem) {
+    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
+        const auto* datum = find_datum_by_name(built().datums, built().zonal[row].datum.text);
+        const auto system = code_after("EPSG:", built().sources.zonal[row].source);
+        const auto shift = code_after("EPSG:", built().sources.datums[datum->id - 1].source);
+        if (!system || !shift) continue;
+        const auto operation = epsg(*shift, PJ_CATEGORY_COORDINATE_OPERATION);
+        const proj_object from(proj_get_source_crs(PJ_DEFAULT_CTX, operation.get()));
+        const proj_object base(
+            proj_crs_get_geodetic_crs(PJ_DEFAULT_CTX, epsg(*system, PJ_CATEGORY_CRS).get()));
+        EXPECT_STREQ(proj_get_name(from.get()), proj_get_name(base.get())) << "EPSG:" << *system;
+    }
+}
+
+TEST(CatalogueUsualProjections, MeanWhatTheirSourceSays) {
+    for (std::size_t row = 0; row < built().usual.size(); ++row) {
+        const auto& record = built().usual[row];
+        const auto& source = built().sources.usual[row].source;
+        const auto text =
+            compose(record, plausible_inputs(record), nullptr, find_ellps_by_code(built().ellps, "GRS80"));
+        if (const auto code = code_after("EPSG method ", source)) {
+            const auto crs = crs_of_text(text);
+            const proj_object conversion(proj_crs_get_coordoperation(PJ_DEFAULT_CTX, crs.get()));
+            const char* method = "";
+            proj_coordoperation_get_method_info(PJ_DEFAULT_CTX, conversion.get(), nullptr, nullptr, &method);
+            EXPECT_EQ(method, *code) << text;
+        } else if (const auto system = code_after("EPSG:", source)) {
+            const auto crs = epsg(*system, PJ_CATEGORY_CRS);
+            const proj_object ellipsoid(proj_get_ellipsoid(PJ_DEFAULT_CTX, crs.get()));
+            double a = 0, rf = 0;
+            proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, ellipsoid.get(), &a, nullptr, nullptr, &rf);
+            ox::Tox_proj4_params no_shift;
+            expect_same_projection(
+                crs.get(), compose(record, no_shift, nullptr, find_ellps_by_axes(built().ellps, a, {}, rf)),
+                record.lon_0.value + 1, record.lat_0.value + 1, source);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace catalogue_test

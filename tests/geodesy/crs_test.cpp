@@ -1,0 +1,99 @@
+#include "geodesy/crs.h"
+
+#include <clocale>
+
+#include "geodesy/crs_import.h"
+#include "geodesy/transformation.h"
+#include "texts.h"
+
+namespace oxhost {
+namespace {
+
+struct pair_case {
+    const char* name;
+    std::string a, b;
+    bool same;
+    friend void PrintTo(const pair_case& shown, std::ostream* out) { *out << shown.name; }
+};
+
+class Equality : public testing::TestWithParam<pair_case> {};
+
+TEST_P(Equality, JudgesTheCoordinateSystem) {
+    const auto& [name, a, b, same] = GetParam();
+    EXPECT_EQ(equal(a, b), same) << a << "\n" << b;
+    EXPECT_EQ(equal(b, a), same) << "the other way round";
+    EXPECT_EQ(equal(a, b), same) << "when asked again";
+    EXPECT_TRUE(equal(a, a));
+}
+
+const std::string krass_tm = "+proj=tmerc +ellps=krass +lon_0=39 +x_0=7500000";
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Equality,
+    testing::Values(
+        pair_case{"Order", "+proj=utm +zone=37 +datum=WGS84", "+datum=WGS84 +zone=37 +proj=utm", true},
+        pair_case{"NotationKeys", texts::utm37, "+proj=utm +zone=37 +datum=WGS84 +wktext +type=crs", true},
+        pair_case{"LonWrap", texts::zone7, texts::zone7 + " +lon_wrap=45 +type=crs", true},
+        pair_case{"LonWrapOfLongitudes", texts::wgs84, texts::wgs84 + " +lon_wrap=180", true},
+        pair_case{"KAndK0", krass_tm + " +k=0.9996", krass_tm + " +k_0=0.99960", true},
+        pair_case{"NumbersAsNumbers", krass_tm, "+proj=tmerc +ellps=krass +lon_0=39.0 +x_0=7.5e6", true},
+        pair_case{"DefaultsWrittenOut", krass_tm, krass_tm + " +lat_0=0 +y_0=0 +k=1 +units=m", true},
+        pair_case{"PlusIsOptional", "proj=utm zone=37 datum=WGS84", texts::utm37, true},
+        pair_case{"UtmIsATransverseMercator", texts::utm37,
+                  "+proj=tmerc +lon_0=39 +k=0.9996 +x_0=500000 +datum=WGS84", true},
+        pair_case{"EllipsoidByAxes", krass_tm, "+proj=tmerc +a=6378245 +rf=298.3 +lon_0=39 +x_0=7500000",
+                  true},
+        pair_case{"Wgs84Datum", texts::wgs84, "+proj=longlat +ellps=WGS84 +towgs84=0,0,0", true},
+        pair_case{"ThreeOfSeven", texts::krass + " +towgs84=25,-141,-78.5",
+                  texts::krass + " +towgs84=25.0,-141,-78.50,0,0,0,0", true},
+        pair_case{"DatumByName", "+proj=longlat +datum=carthage",
+                  "+proj=longlat +ellps=clrk80ign +towgs84=-263,6,431", true},
+        pair_case{"HeightsDoNotCount", texts::utm37, texts::utm37 + " +vunits=ft +geoidgrids=egm96_15.gtx",
+                  true},
+        pair_case{"OtherShift", texts::krass + " +towgs84=25,-141,-78.5",
+                  texts::krass + " +towgs84=25,-141,-78.6", false},
+        pair_case{"ShiftAgainstNone", texts::krass + " +towgs84=0,0,0", texts::krass, false},
+        pair_case{"EllipsoidIsNoDatum", texts::wgs84, "+proj=longlat +ellps=WGS84 +no_defs", false},
+        pair_case{"NearEllipsoids", "+proj=longlat +ellps=WGS84", "+proj=longlat +ellps=GRS80", false},
+        pair_case{"OtherMeridian", krass_tm, "+proj=tmerc +ellps=krass +lon_0=39.0000005 +x_0=7500000",
+                  false},
+        pair_case{"South", texts::utm37, texts::utm37 + " +south", false},
+        pair_case{"Units", texts::utm37, "+proj=utm +zone=37 +datum=WGS84 +units=km", false},
+        pair_case{"Axes", texts::utm37, texts::utm37 + " +axis=neu", false},
+        pair_case{"Empty", "", "  ", true}, pair_case{"EmptyAgainstText", "", texts::wgs84, false},
+        pair_case{"RefusedAlike", "+proj=nonsense +k=1", "+k_0=1.0 +proj=nonsense +no_defs", true},
+        pair_case{"RefusedDifferent", "+proj=nonsense +k=1", "+proj=nonsense +k=2", false},
+        pair_case{"RefusedAgainstGood", texts::refused, texts::utm37, false}),
+    texts::case_name<pair_case>);
+
+TEST(Crs, NamesWhatIsWrong) {
+    EXPECT_EQ(crs_of(texts::refused)->error, "utm: Invalid value for zone");
+    EXPECT_EQ(crs_of("hello")->error, "no +proj= in the text");
+    EXPECT_EQ(crs_of(" ")->error, "no projection");
+    for (const char* text : {"+proj=geocent +datum=WGS84", "+proj=cart +ellps=GRS80", "+proj=nonsense"}) {
+        EXPECT_FALSE(crs_of(text)->valid()) << text;
+        EXPECT_NE(crs_of(text)->error, "") << text;
+    }
+}
+
+TEST(Crs, CommaLocaleChangesNothing) {
+#ifdef OX_TEST_LOCALES
+    setenv("LOCPATH", OX_TEST_LOCALES, 1);
+#endif
+    const auto results = [](const std::string& unprepared) {
+        polyline line{{39.5, 55.25}};
+        transformation::between(texts::zone7_base,
+                                "+proj=tmerc +lon_0=39.5 +k=0.9996 +x_0=0.25 +datum=WGS84" + unprepared)
+            ->apply(line);
+        return std::pair(line, import_crs("EPSG:28407"));
+    };
+    const auto expected = results("");
+    if (!std::setlocale(LC_ALL, "de_DE.UTF-8")) GTEST_SKIP() << "no locale with a decimal comma";
+    EXPECT_EQ(std::to_string(0.5), "0,500000");
+    EXPECT_EQ(results(" +no_defs"), expected);
+    EXPECT_EQ(number_text(parse_number("-79.8").value_or(0)), "-79.8");
+    std::setlocale(LC_ALL, "C");
+}
+
+}  // namespace
+}  // namespace oxhost

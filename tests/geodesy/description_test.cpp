@@ -1,0 +1,97 @@
+#include "geodesy/description.h"
+
+#include "geodesy/warnings.h"
+#include "texts.h"
+
+namespace oxhost {
+namespace {
+
+TEST(Description, SaysWhatATextMeans) {
+    EXPECT_EQ(
+        describe(texts::zone7, language::english),
+        "Projection: Gauss-Krüger, zone 7\n"
+        "Parameters: central meridian 39°, latitude of origin 0°, scale factor 1, false easting 7500000 m, "
+        "false northing 0 m\n"
+        "Ellipsoid: Krassowsky 1940 (a = 6378245 m, 1/f = 298.3)\n"
+        "Datum: shift to WGS 84: 23.57,-140.95,-79.8,0,0.35,0.79,-0.22\n"
+        "Units: metres");
+    EXPECT_EQ(describe(texts::krass, language::russian),
+              "Проекция: Долгота и широта\n"
+              "Эллипсоид: Красовского 1940 (a = 6378245 м, 1/f = 298.3)\n"
+              "Датум: не задан: переход к WGS 84 неизвестен\n"
+              "Единицы: градусы");
+}
+
+TEST(Description, ShortOnesFitOneLine) {
+    const struct {
+        std::string text, english, russian;
+    } cases[] = {
+        {"", "Projection is not defined", "Проекция не задана"},
+        {texts::refused, "Invalid projection: utm: Invalid value for zone",
+         "Неверная проекция: utm: Invalid value for zone"},
+        {"+proj=tmerc +lon_0=-171 +x_0=32500000 +ellps=krass", "Gauss-Krüger, zone 32, Krassowsky 1940",
+         "Гаусса - Крюгера, зона 32, Красовского 1940"},
+        {"+proj=tmerc +lon_0=39 +x_0=6500000 +ellps=krass", "Transverse Mercator, 39°, Krassowsky 1940",
+         "Поперечная Меркатора, 39°, Красовского 1940"},
+        {"+proj=wintri +R=6371000", "Winkel Tripel, own ellipsoid", "Winkel Tripel, свой эллипсоид"}};
+    for (const auto& [text, english, russian] : cases) {
+        EXPECT_EQ(short_description(text, language::english), english);
+        EXPECT_EQ(short_description(text, language::russian), russian);
+    }
+}
+
+using lines = std::vector<std::string>;
+
+TEST(Warnings, AboutOneText) {
+    const point moscow{37.6, 55.75};
+    const auto english = [&](const std::string& text) {
+        return warnings_for(text, language::english, moscow);
+    };
+    EXPECT_EQ(english(""), lines{});
+    EXPECT_EQ(english(texts::zone7), lines{});
+    EXPECT_EQ(english("+proj=utm +zone=37 +ellps=GRS80"), lines{});
+    EXPECT_EQ(english("+proj=lcc +lat_1=50 +lat_2=60 +datum=WGS84 +no_such=1 +south +approx"),
+              lines{"PROJ does not know the key \"+no_such\" and ignores it"});
+    EXPECT_EQ(english("+proj=utm +zone=99 +datum=WGS84 +typo"),
+              lines{"PROJ does not know the key \"+typo\" and ignores it"});
+    const lines reversed{
+        "the towgs84 rotations are those of Pulkovo 1942 to WGS 84 (20) (EPSG:5044) with the opposite signs: "
+        "coordinate frame convention instead of position vector"};
+    EXPECT_EQ(english("+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,-0.35,-0.79,-0.22"),
+              reversed);
+    EXPECT_EQ(english("+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22"), lines{});
+
+    const auto missing = english(texts::krass);
+    ASSERT_EQ(missing.size(), 1U);
+    int metres = 0;
+    ASSERT_EQ(std::sscanf(missing[0].c_str(), "no datum shift: off by about %d m here", &metres), 1)
+        << missing[0];
+    EXPECT_NEAR(metres, 120, 10);  // Pulkovo 1942 in Moscow: some 118 m
+    EXPECT_EQ(warnings_for(texts::krass, language::russian, moscow)[0],
+              "нет перехода к датуму WGS 84: ошибка здесь около " + std::to_string(metres) + " м");
+}
+
+TEST(Warnings, AboutALine) {
+    const polyline moscow{{37.6, 55.7}, {37.7, 55.8}};
+    const auto of_pair = [&](const std::string& from, const std::string& to, const polyline& line) {
+        return warnings_for(from, to, line, language::english);
+    };
+    EXPECT_EQ(of_pair(texts::wgs84, texts::utm37, moscow), lines{});
+    EXPECT_EQ(of_pair(texts::krass, "+proj=utm +zone=37 +ellps=krass", moscow), lines{})
+        << "no shift is needed";
+    EXPECT_EQ(of_pair(texts::krass, texts::utm37, moscow).size(), 1U);
+    EXPECT_EQ(of_pair(texts::krass, texts::utm37, moscow)[0].substr(0, 24), "source: no datum shift: ");
+
+    // the scale is 0.9996 / sqrt(1 - (cos B sin L)^2), L from the meridian: 1.006 at 12, 1.027 at 24 degrees
+    const polyline east{{51, 56}, {51.1, 56.1}}, far_east{{63, 56}, {63.1, 56.1}};
+    EXPECT_EQ(of_pair(texts::wgs84, texts::utm37, east), lines{});
+    const auto far = of_pair(texts::wgs84, texts::utm37, far_east);
+    ASSERT_EQ(far.size(), 1U);
+    EXPECT_EQ(far[0], "target: the line lies outside its sensible area: lengths are off by 2.7 %") << far[0];
+    const auto none = of_pair(texts::wgs84, "+proj=gnom +lat_0=90 +datum=WGS84", {{39, 55}, {39, -10}});
+    ASSERT_EQ(none.size(), 1U);
+    EXPECT_EQ(none[0].substr(0, 49), "target: the line cannot be drawn there: vertex 1:");
+}
+
+}  // namespace
+}  // namespace oxhost

@@ -1,0 +1,53 @@
+#pragma once
+/// Texts and helpers that the geodesy tests share.
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace texts {
+
+inline const std::string wgs84 = "+proj=longlat +datum=WGS84 +no_defs";
+inline const std::string utm37 = "+proj=utm +zone=37 +datum=WGS84 +units=m +no_defs";
+inline const std::string krass = "+proj=longlat +ellps=krass +no_defs";
+/// Zone 7 of Pulkovo 1942 with the parameters of EPSG:5044, as a dialog writes it.
+inline const std::string zone7 =
+    "+proj=tmerc +lon_0=39 +lat_0=0 +x_0=7500000 +y_0=0 +k_0=1 "
+    "+towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +ellps=krass +units=m +lon_wrap=45 +no_defs";
+inline const std::string zone7_base =
+    "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +no_defs";
+inline const std::string refused = "+proj=utm +zone=99 +datum=WGS84 +no_defs";
+
+/// A folder of its own for each test; gone afterwards.
+class scratch_folder {
+public:
+    scratch_folder() {
+        std::string name = (std::filesystem::temp_directory_path() / "geodesy.XXXXXX").string();
+        path_ = mkdtemp(name.data());
+    }
+    ~scratch_folder() { std::filesystem::remove_all(path_); }
+    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+    std::string path() const { return path_.string(); }
+
+private:
+    std::filesystem::path path_;
+};
+
+inline void write(const std::string& path, const std::string& content) { std::ofstream(path) << content; }
+
+inline std::string read(const std::string& path) {
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+template <class Case>
+std::string case_name(const testing::TestParamInfo<Case>& info) {
+    return info.param.name;
+}
+
+}  // namespace texts

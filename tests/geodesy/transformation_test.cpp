@@ -1,0 +1,208 @@
+#include "geodesy/transformation.h"
+
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <stdexcept>
+
+#include "texts.h"
+
+namespace oxhost {
+namespace {
+
+/// Points published with the formulas of the map projections (IOGP Guidance Note 7-2), geographic ones on
+/// the ellipsoid of the projection, so that nothing but the projection is at work.
+TEST(Transformation, MeetsPublishedPointsBothWays) {
+    const struct {
+        std::string projection;
+        point geographic, projected;
+    } cases[] = {
+        {"+proj=tmerc +lat_0=49 +lon_0=-2 +k=0.9996012717 +x_0=400000 +y_0=-100000 +ellps=airy",
+         {0.5, 50.5},
+         {577274.99, 69740.50}},
+        {"+proj=lcc +lat_1=28.3833333333333 +lat_2=30.2833333333333 +lat_0=27.8333333333333 +lon_0=-99 "
+         "+x_0=609601.219202438 +y_0=0 +ellps=clrk66 +units=us-ft",
+         {-96, 28.5},
+         {2963503.91, 254759.80}},
+        {"+proj=merc +lat_ts=42 +lon_0=51 +ellps=krass", {53, 53}, {165704.29, 5171848.07}},
+        {"+proj=sterea +lat_0=52.1561605555556 +lon_0=5.38763888888889 +k=0.9999079 +x_0=155000 +y_0=463000 "
+         "+ellps=bessel",
+         {6, 53},
+         {196105.283, 557057.739}}};
+    for (const auto& [projection, geographic, projected] : cases) {
+        const std::string base = "+proj=longlat +ellps=" + proj4_text(projection).value("ellps").value();
+        polyline line{geographic};
+        ASSERT_FALSE(transformation::between(base, projection)->apply(line));
+        EXPECT_NEAR(line[0].x, projected.x, 0.01) << projection;
+        EXPECT_NEAR(line[0].y, projected.y, 0.01) << projection;
+        line = {projected};
+        ASSERT_FALSE(transformation::between(projection, base)->apply(line));
+        EXPECT_NEAR(line[0].x, geographic.x, 2e-7) << projection;
+        EXPECT_NEAR(line[0].y, geographic.y, 2e-7) << projection;
+    }
+}
+
+/// A datum shift written out: ellipsoid to Cartesian at height 0, seven parameters, and back.
+namespace closed_form {
+
+using vector = std::array<double, 3>;
+constexpr double degree = std::numbers::pi / 180;
+
+vector cartesian(point at, double a, double rf) {
+    const double e2 = (2 - 1 / rf) / rf;
+    const double phi = at.y * degree, lambda = at.x * degree;
+    const double n = a / std::sqrt(1 - e2 * std::sin(phi) * std::sin(phi));
+    return {n * std::cos(phi) * std::cos(lambda), n * std::cos(phi) * std::sin(lambda),
+            n * (1 - e2) * std::sin(phi)};
+}
+
+vector position_vector(const vector& v, const std::array<double, 7>& t) {
+    const double second = degree / 3600;
+    const double rx = t[3] * second, ry = t[4] * second, rz = t[5] * second, m = 1 + t[6] * 1e-6;
+    return {t[0] + m * (v[0] - rz * v[1] + ry * v[2]), t[1] + m * (rz * v[0] + v[1] - rx * v[2]),
+            t[2] + m * (-ry * v[0] + rx * v[1] + v[2])};
+}
+
+point geographic(const vector& v, double a, double rf) {
+    const double e2 = (2 - 1 / rf) / rf;
+    const double p = std::hypot(v[0], v[1]);
+    double phi = std::atan2(v[2], p * (1 - e2));
+    for (int i = 0; i < 20; ++i) {
+        const double n = a / std::sqrt(1 - e2 * std::sin(phi) * std::sin(phi));
+        phi = std::atan2(v[2] + e2 * n * std::sin(phi), p);
+    }
+    return {std::atan2(v[1], v[0]) / degree, phi / degree};
+}
+
+}  // namespace closed_form
+
+struct shift_case {
+    const char* name;
+    std::string source;
+    double a, rf;
+    std::array<double, 7> shift;
+    point at;
+    friend void PrintTo(const shift_case& shown, std::ostream* out) { *out << shown.name; }
+};
+
+class Shift : public testing::TestWithParam<shift_case> {};
+
+TEST_P(Shift, IsTheClosedFormHelmert) {
+    const auto& [name, source, a, rf, shift, at] = GetParam();
+    const point expected = closed_form::geographic(
+        closed_form::position_vector(closed_form::cartesian(at, a, rf), shift), 6378137, 298.257223563);
+    polyline line{at};
+    ASSERT_FALSE(transformation::between(source, texts::wgs84)->apply(line));
+    EXPECT_NEAR(line[0].x, expected.x, 1e-11);
+    EXPECT_NEAR(line[0].y, expected.y, 1e-11);
+    // and back, to the millimetre that the omitted height is worth
+    ASSERT_FALSE(transformation::between(texts::wgs84, source)->apply(line));
+    EXPECT_NEAR(line[0].x, at.x, 2e-8);
+    EXPECT_NEAR(line[0].y, at.y, 2e-8);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Datums, Shift,
+    testing::Values(
+        shift_case{"Pulkovo",
+                   "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +lon_wrap=45",
+                   6378245,
+                   298.3,
+                   {23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22},
+                   {39, 55}},
+        shift_case{"ThreeParameters",
+                   "+proj=longlat +ellps=intl +towgs84=-84.87,-96.49,-116.95",
+                   6378388,
+                   297,
+                   {-84.87, -96.49, -116.95, 0, 0, 0, 0},
+                   {2.1309658, 53.8101564}},
+        // PROJ would look for a grid, of which some of its packages bring a copy
+        shift_case{"PotsdamByName",
+                   "+proj=longlat +datum=potsdam",
+                   6377397.155,
+                   299.1528128,
+                   {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7},
+                   {9, 50}},
+        shift_case{"OsgbByName",
+                   "+proj=longlat +datum=OSGB36",
+                   6377563.396,
+                   299.3249646,
+                   {446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
+                   {-1.5, 53}}),
+    texts::case_name<shift_case>);
+
+TEST(Shift, OfBothSidesWithoutHeight) {
+    const std::array<double, 7> pulkovo{23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22};
+    const std::array<double, 7> ed50{87, 98, 121, 0, 0, 0, 0};  // from WGS 84
+    using namespace closed_form;
+    const point expected = geographic(
+        position_vector(position_vector(cartesian({39, 55}, 6378245, 298.3), pulkovo), ed50), 6378388, 297);
+    polyline line{{39, 55}};
+    ASSERT_FALSE(
+        transformation::between("+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22",
+                                "+proj=longlat +ellps=intl +towgs84=-87,-98,-121 +lon_wrap=45")
+            ->apply(line));
+    EXPECT_NEAR(line[0].x, expected.x, 1e-11);
+    EXPECT_NEAR(line[0].y, expected.y, 1e-11);
+}
+
+TEST(Transformation, WrapsLongitudesWhereTheTextSaysSo) {
+    polyline line{{-100, 40}, {39, 55}, {-135, 0}, {-134.75, 0}};
+    ASSERT_FALSE(transformation::between(texts::wgs84, texts::wgs84 + " +lon_wrap=45")->apply(line));
+    EXPECT_EQ(line, (polyline{{-100, 40}, {39, 55}, {-135, 0}, {-134.75, 0}}));
+    ASSERT_FALSE(transformation::between(texts::wgs84, texts::wgs84 + " +lon_wrap=180")->apply(line));
+    EXPECT_EQ(line, (polyline{{260, 40}, {39, 55}, {225, 0}, {225.25, 0}}));
+}
+
+TEST(Transformation, IsNotNeededBetweenSpellingsOfOneSystem) {
+    EXPECT_FALSE(
+        transformation::between(texts::utm37, "+proj=utm +zone=37 +datum=WGS84 +lon_wrap=45")->is_needed());
+    EXPECT_TRUE(transformation::between(texts::zone7, texts::utm37)->is_needed());
+}
+
+TEST(Transformation, FailsAsAWholeAndNamesTheVertex) {
+    struct {
+        std::string source, target;
+        point bad;
+    } const cases[] = {{texts::utm37, texts::wgs84, {NAN, 6100000}},
+                       {texts::utm37, texts::wgs84, {500000, HUGE_VAL}},
+                       {texts::wgs84, texts::utm37, {39, 91}},
+                       {texts::wgs84, texts::krass, {39, -90.1}},
+                       {texts::wgs84, "+proj=gnom +lat_0=90 +lon_0=39 +datum=WGS84", {39, -10}},
+                       {texts::utm37, texts::wgs84, {1e12, 1e12}}};
+    for (const auto& [source, target, bad] : cases) {
+        const polyline before{{39, 55}, {39.5, 55.5}, bad, {40, 56}, bad};
+        polyline line = before;
+        const auto failure = transformation::between(source, target)->apply(line);
+        ASSERT_TRUE(failure) << source << " to " << target << ": " << line[2].x << ' ' << line[2].y;
+        EXPECT_EQ(failure->vertex, 2U);
+        EXPECT_EQ(failure->at.y, bad.y);
+        EXPECT_NE(failure->reason, "");
+        for (std::size_t i : {0U, 1U, 3U}) EXPECT_EQ(line[i], before[i]) << "vertex " << i << " was changed";
+    }
+}
+
+TEST(Transformation, RefusesTextsWithTheirReason) {
+    for (const auto& text : {std::string(), texts::refused, std::string("EPSG:4326")}) {
+        EXPECT_THROW(transformation::between(texts::wgs84, text), std::invalid_argument) << text;
+        EXPECT_THROW(transformation::between(text, texts::wgs84), std::invalid_argument) << text;
+    }
+    try {
+        transformation::between(texts::wgs84, texts::refused);
+    } catch (const std::invalid_argument& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  "target projection \"" + texts::refused + "\": utm: Invalid value for zone");
+    }
+}
+
+TEST(Transformation, TellsItsOperation) {
+    const auto operation = transformation::between(texts::zone7, texts::utm37)->operation();
+    EXPECT_EQ(operation.source_shift, "Pulkovo 1942 to WGS 84 (20) (EPSG:5044)");
+    EXPECT_EQ(operation.target_shift, "");
+    EXPECT_EQ(operation.accuracy, 3);  // published with EPSG:5044
+    EXPECT_NE(operation.definition.find("helmert x=23.57"), std::string::npos) << operation.definition;
+    EXPECT_EQ(transformation::between(texts::krass, texts::wgs84)->operation().accuracy, std::nullopt);
+}
+
+}  // namespace
+}  // namespace oxhost

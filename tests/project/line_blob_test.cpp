@@ -1,0 +1,121 @@
+#include "project/line_blob.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <functional>
+#include <limits>
+#include <string>
+
+#include "case_name.h"
+
+namespace {
+
+using namespace oxhost;
+using blob = std::vector<std::byte>;
+
+void put(blob& to, auto value, bool little) {
+    auto bytes = std::bit_cast<std::array<std::byte, sizeof(value)>>(value);
+    if (!little) std::reverse(bytes.begin(), bytes.end());
+    to.insert(to.end(), bytes.begin(), bytes.end());
+}
+
+/// A blob written by hand; what a case changes is what is wrong, or unusual, about it.
+struct builder {
+    char second_letter = 'P';
+    unsigned version = 0;
+    unsigned flags = 0;
+    unsigned envelope = 1;
+    bool little = true;
+    unsigned order = 2;  // 2: as `little` says
+    std::uint32_t type = 2;
+    std::uint32_t count = 2;
+    std::size_t cut = 0;
+    std::size_t extra = 0;
+
+    blob build() const {
+        constexpr std::array<std::size_t, 8> doubles{0, 4, 6, 6, 8, 0, 0, 0};
+        blob made;
+        for (unsigned byte : {unsigned{'G'}, static_cast<unsigned>(second_letter), version,
+                              flags | envelope << 1 | unsigned{little}})
+            made.push_back(static_cast<std::byte>(byte));
+        put(made, std::int32_t{-1}, little);
+        for (std::size_t i = 0; i < doubles[envelope]; ++i) put(made, 0.0, little);
+        made.push_back(static_cast<std::byte>(order == 2 ? unsigned{little} : order));
+        put(made, type, little);
+        put(made, count, little);
+        for (double value : {1.5, -2.5, 1e300, 5e-324}) put(made, value, little);
+        made.resize(made.size() - cut);
+        made.resize(made.size() + extra);
+        return made;
+    }
+};
+
+struct blob_case {
+    const char* name;
+    builder made;
+    const char* complaint;  // empty: reads as the two vertices above
+};
+
+class LineBlob : public testing::TestWithParam<blob_case> {};
+
+TEST_P(LineBlob, ReadsOrNames) {
+    const blob bytes = GetParam().made.build();
+    polyline line{{7, 7}};
+    try {
+        decode_line(bytes, line);
+        EXPECT_STREQ(GetParam().complaint, "");
+        EXPECT_EQ(line, (polyline{{1.5, -2.5}, {1e300, 5e-324}}));
+        EXPECT_EQ(summarize_blob(bytes).vertices, 2U);
+    } catch (const blob_error& e) {
+        EXPECT_STREQ(GetParam().complaint, e.what());
+        EXPECT_EQ(line, (polyline{{7, 7}})) << "a refused blob must not change the line";
+        EXPECT_THROW(summarize_blob(bytes), blob_error);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Blobs, LineBlob,
+    testing::Values(
+        blob_case{"LittleEndian", {}, ""}, blob_case{"BigEndian", {.little = false}, ""},
+        blob_case{"NoEnvelope", {.envelope = 0}, ""}, blob_case{"EnvelopeXyz", {.envelope = 2}, ""},
+        blob_case{"EnvelopeXym", {.envelope = 3}, ""},
+        blob_case{"EnvelopeXyzm", {.envelope = 4, .little = false}, ""},
+        blob_case{"EnvelopeUnknown", {.envelope = 5}, "geometry has an unknown kind of envelope"},
+        blob_case{"Magic", {.second_letter = 'Q'}, "geometry is no GeoPackage blob"},
+        blob_case{"Version", {.version = 1}, "geometry has an unknown blob version"},
+        blob_case{"Extended", {.flags = 0x20}, "geometry is of an extended type"},
+        blob_case{"ByteOrder", {.order = 7}, "geometry has an unknown byte order"},
+        blob_case{"Point", {.type = 1}, "geometry is a Point, not a LineString"},
+        blob_case{"MultiZ", {.type = 1005}, "geometry is a MultiLineString, not a LineString"},
+        blob_case{"Heights", {.type = 1002}, "geometry has heights or measures (lines are 2D)"},
+        blob_case{"EwkbHeights", {.type = 0x80000002}, "geometry has heights or measures (lines are 2D)"},
+        blob_case{"CountTooLarge", {.count = 0xFFFFFFFF}, "geometry is cut short"},
+        blob_case{"CountTooSmall", {.count = 1}, "geometry has bytes after its end"},
+        blob_case{"Trailing", {.extra = 1}, "geometry has bytes after its end"}),
+    case_name);
+
+TEST(LineBlob, EveryShorterPieceIsCutShort) {
+    const std::size_t size = builder{}.build().size();
+    for (std::size_t cut = 1; cut <= size; ++cut) {
+        blob piece = builder{.cut = cut}.build();
+        piece.shrink_to_fit();  // so that a sanitizer sees a read behind the end
+        EXPECT_THROW(summarize_blob(piece), blob_error) << "cut by " << cut;
+    }
+}
+
+TEST(LineBlob, RoundTripKeepsEveryBit) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const polyline& line : {polyline{}, polyline{{0.1, -0.0}},
+                                 polyline{{1e-310, 1e308}, {7654321.123456789, 3}}, polyline{{nan, nan}}}) {
+        blob bytes;
+        encode_line(line, bytes);
+        polyline back;
+        decode_line(bytes, back);
+        ASSERT_EQ(back.size(), line.size());
+        for (std::size_t i = 0; i < line.size(); ++i)
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(back[i].x), std::bit_cast<std::uint64_t>(line[i].x));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,212 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <functional>
+
+#include "case_name.h"
+#include "project/sqlite.h"
+#include "project/workspace.h"
+
+namespace project_test {
+namespace {
+
+void run_sql(const fs::path& file, const std::string& sql) {
+    sqlite::connection(file, SQLITE_OPEN_READWRITE).run(sql.c_str());
+}
+
+struct bad_file {
+    const char* name;
+    std::function<void(const fs::path&)> damage;  // of a good project
+    const char* complaint;
+};
+
+class Refuses : public testing::TestWithParam<bad_file> {};
+
+TEST_P(Refuses, WithoutTouching) {
+    const workspace folder;
+    const fs::path file = folder / "p.gpkg";
+    make_project(file);
+    GetParam().damage(file);
+    const std::string before = fs::is_regular_file(file) ? bytes_of(file) : "";
+    for (open_mode mode : {open_mode::read_write, open_mode::read_only, open_mode::scratch}) {
+        const std::string error = error_of([&] { project::open(file, mode); });
+        EXPECT_TRUE(error.starts_with(file.string() + ": " + GetParam().complaint)) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+    }
+    EXPECT_TRUE((fs::is_regular_file(file) ? bytes_of(file) : "") == before) << "the file was changed";
+}
+
+auto sql(const std::string& statement) {
+    return [statement](const fs::path& file) { run_sql(file, statement); };
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, Refuses,
+    testing::Values(bad_file{"Missing", [](const fs::path& f) { fs::remove(f); }, "no such file"},
+                    bad_file{"Folder", [](const fs::path& f) { fs::remove(f), fs::create_directory(f); },
+                             "is not a file"},
+                    bad_file{"Text", [](const fs::path& f) { write_bytes(f, std::string(5000, 'x')); },
+                             "is no SQLite database"},
+                    bad_file{"ZeroBytes", [](const fs::path& f) { write_bytes(f, ""); }, "is no GeoPackage"},
+                    bad_file{"PlainSqlite", sql("PRAGMA application_id=0"), "is no GeoPackage"},
+                    bad_file{"ForeignLayer", sql("UPDATE gpkg_geometry_columns SET table_name='roads'"),
+                             "is a GeoPackage, but no project"},
+                    bad_file{"ColumnMissing", sql("ALTER TABLE scenes DROP COLUMN proj4"),
+                             "is a GeoPackage, but no project: its layer 'scenes' lacks proj4"},
+                    bad_file{"Truncated",
+                             [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 8192); },
+                             "is damaged"},
+                    bad_file{"PagesOverwritten",
+                             [](const fs::path& f) {
+                                 const std::string bytes = bytes_of(f);
+                                 write_bytes(
+                                     f, bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x5a'));
+                             },
+                             "is damaged"},
+                    bad_file{"BlobDamaged", sql("UPDATE scenes SET geom=substr(geom, 1, 60) WHERE fid=2"),
+                             "scene 1 \"Plan\": geometry is cut short"}),
+    case_name);
+
+TEST(Store, KeepsScenesInOneCleanFile) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    EXPECT_EQ(folder.files(), 1U);
+    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), sample_scenes);
+    EXPECT_THROW(project::create(folder / "p.gpkg"), project_error);
+}
+
+TEST(Store, OpensInGisProgramsWithoutWarning) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    const std::string seen = output_of("ogrinfo -ro -al " + (folder / "p.gpkg").string());
+    EXPECT_EQ(seen.find("Warning"), std::string::npos) << seen;
+    EXPECT_EQ(seen.find("ERROR"), std::string::npos) << seen;
+    for (const char* line :
+         {"Geometry: Line String", "Feature Count: 4", "Extent: (1.000000, 2.000000) - (500100",
+          "LINESTRING (500000.1 6200000.2,500100.3 6200050.4)", "profile (Integer(Boolean))"})
+        EXPECT_NE(seen.find(line), std::string::npos) << line << " not in\n" << seen;
+}
+
+struct visit {
+    const char* name;
+    open_mode mode;
+    bool changes;
+};
+class Untouched : public testing::TestWithParam<visit> {};
+
+TEST_P(Untouched, EveryByte) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    const std::string before = bytes_of(folder / "p.gpkg");
+    {
+        auto opened = project::open(folder / "p.gpkg", GetParam().mode);
+        opened->begin_update(*opened->at(0));
+        opened->lend_line(*opened->at(0));
+        opened->end_update(*opened->at(0));
+        if (GetParam().changes) {
+            opened->set_proj4(*opened->at(0), "new");
+            opened->append(sample_scenes);
+            EXPECT_EQ(opened->state(0).proj4, "new");
+        }
+    }
+    EXPECT_TRUE(bytes_of(folder / "p.gpkg") == before);
+    EXPECT_EQ(folder.files(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, Untouched,
+                         testing::Values(visit{"ReadOnly", open_mode::read_only, false},
+                                         visit{"WritableUnchanged", open_mode::read_write, false},
+                                         visit{"DryRun", open_mode::scratch, true}),
+                         case_name);
+
+TEST(Store, RefusesWhatIsInUse) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    const auto holder = project::open(folder / "p.gpkg", open_mode::read_write);
+    for (open_mode mode : {open_mode::read_write, open_mode::read_only})
+        EXPECT_EQ(error_of([&] { project::open(folder / "p.gpkg", mode); }),
+                  (folder / "p.gpkg").string() + ": is open in another program");
+}
+
+TEST(Store, BracketIsSeenInsideAndStoredAtItsEnd) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+    scene& first = *opened->at(0);
+    opened->begin_update(first);
+    opened->begin_update(first);
+    opened->set_line(first, {{9, 9}, {8, 8}, {7, 7}});
+    opened->set_proj4(first, "new");
+    EXPECT_EQ(opened->proj4(first), "new");
+    EXPECT_EQ(opened->lend_line(first)->size(), 3U);
+    opened->end_update(first);
+    EXPECT_EQ(first.proj4, sample_scenes[0].proj4) << "the inner end of nested brackets must not store";
+    EXPECT_EQ(opened->read_line(first), *sample_scenes[0].line);
+    opened->end_update(first);
+    EXPECT_EQ(first.line->vertices, 3U);
+    opened->close();
+    auto expected = sample_scenes;
+    expected[0].proj4 = "new";
+    expected[0].line = polyline{{9, 9}, {8, 8}, {7, 7}};
+    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), expected);
+}
+
+TEST(Store, FullDiskLeavesTheSceneAsItWas) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+    scene& first = *opened->at(0);
+    const auto old_handler = signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    rlimit tight = usual;
+    tight.rlim_cur = fs::file_size(folder / "p.gpkg");
+    setrlimit(RLIMIT_FSIZE, &tight);
+    opened->begin_update(first);
+    opened->set_line(first, polyline(20000, point{1, 2}));
+    opened->set_proj4(first, "new");
+    const std::string error = error_of([&] { opened->end_update(first); });
+    setrlimit(RLIMIT_FSIZE, &usual);
+    signal(SIGXFSZ, old_handler);
+    EXPECT_NE(error.find("scene 0 \"Разрез I\": cannot be stored"), std::string::npos) << error;
+    expect_scenes(*opened, sample_scenes);
+    opened->set_proj4(first, "later");
+    opened->close();
+    EXPECT_EQ(project::open(folder / "p.gpkg", open_mode::read_only)->at(0)->proj4, "later");
+}
+
+TEST(Store, RestorePutsBackToTheByte) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+    const std::vector<scene_state> before{opened->state(0), opened->state(2)};
+    opened->set_line(*opened->at(0), {{9, 9}});
+    opened->set_proj4(*opened->at(2), "new");
+    opened->restore(before);
+    EXPECT_EQ(opened->state(0).geometry, before[0].geometry);
+    expect_scenes(*opened, sample_scenes);
+    opened->close();
+    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), sample_scenes);
+}
+
+TEST(Store, SpatialIndexOfAnotherProgramIsKeptUp) {
+    const workspace folder;
+    make_project(folder / "p.gpkg");
+    output_of("ogrinfo " + (folder / "p.gpkg").string() +
+              " -sql \"SELECT CreateSpatialIndex('scenes', 'geom')\"");
+    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+    opened->set_line(*opened->at(0), {{70, 80}, {71, 82}});
+    opened->close();
+    sqlite::connection db(folder / "p.gpkg", SQLITE_OPEN_READONLY);
+    EXPECT_EQ(db.ask("SELECT minx || ' ' || maxy FROM rtree_scenes_geom WHERE id=1"), "70.0 82.0");
+}
+
+TEST(Store, DiscardRemovesANewProject) {
+    const workspace folder;
+    project::create(folder / "p.gpkg")->discard();
+    EXPECT_EQ(folder.files(), 0U);
+}
+
+}  // namespace
+}  // namespace project_test

@@ -1,0 +1,221 @@
+// Projection files, the CRS dialog, the proj4 input, and the dialogs that they open.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "case_name.h"
+#include "double/host_double.h"
+#include "framework/value_visitors.h"
+#include "projection/crs_dialog.h"
+#include "projection/proj4_input.h"
+#include "projection/projection_files.h"
+#include "toolkit/modal_dialog.h"
+
+namespace ox {
+namespace {
+
+using host_double::host;
+
+/// The host's dialogs, attached to the places where the module looks for them.
+struct dialogs : dialog_host_impl {
+    std::wstring path;  ///< answer to the file dialog; empty cancels
+    std::function<bool(custom_pointer docker, custom_pointer buttons)> user;
+
+    void ask_file(std::int32_t, const wchar_t* filter, custom_pointer visitor) override {
+        EXPECT_TRUE(std::wstring(filter).ends_with(L"(*.prj)|*.prj"));
+        if (!path.empty()) call<&string_visitor_impl::visit>(visitor, path.c_str());
+    }
+    bool show_modal(custom_pointer docker, custom_pointer buttons) override {
+        return user && user(docker, buttons);
+    }
+
+    dialogs() {
+        attach(plain_);
+        attach(crs_);
+    }
+    ~dialogs() {
+        plain_.current = nullptr;
+        crs_.current = nullptr;
+    }
+
+private:
+    template <class Place>
+    void attach(Place& place) {
+        place.attach(make_pointer<dialog_host_impl>(*this));
+        Place::current = &place;
+    }
+    util::detail::modal_dialog<nullptr> plain_;
+    util::detail::modal_dialog<dialog::projection_crs::id> crs_;
+};
+
+class Elements : public testing::Test {
+protected:
+    void SetUp() override { host_double::reset(); }
+    void TearDown() override { EXPECT_EQ(host().alive(), 0); }
+};
+
+struct file_case {
+    const char* name;
+    const wchar_t* path;
+    const char* loaded_as;  ///< empty: not touched
+};
+
+class Files : public Elements, public testing::WithParamInterface<file_case> {};
+
+TEST_P(Files, GoByTheExtension) {
+    const file_case& c = GetParam();
+    const std::string format = c.loaded_as;
+    host().files[c.path] = L"+proj=longlat";
+    EXPECT_EQ(load_projection_file(c.path), format.empty() ? L"" : L"+proj=longlat");
+    save_projection_file(c.path, L"+proj=utm");
+    EXPECT_EQ(host().files[c.path], format.empty() ? L"+proj=longlat" : L"+proj=utm");
+    EXPECT_EQ(host().log, format.empty() ? std::vector<std::string>{}
+                                         : (std::vector<std::string>{"load " + format, "save " + format}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Paths, Files,
+                         testing::Values(file_case{"UpperCase", L"C:\\data\\zone7.PJ4", "pj4"},
+                                         file_case{"Esri", L"/data/zone7.prj", "prj"},
+                                         file_case{"DotInAFolder", L"C:\\data.pj4\\noext", ""},
+                                         file_case{"LastExtension", L"name.prj.bak", ""},
+                                         file_case{"NoName", L".pj4", "pj4"},
+                                         file_case{"None", L"noext", ""}),
+                         case_name);
+
+struct identifier_case {
+    const char* name;
+    const wchar_t *typed, *identifier;
+};
+
+class Identifiers : public testing::TestWithParam<identifier_case> {};
+
+TEST_P(Identifiers, IntegersAreEpsgCodes) {
+    EXPECT_EQ(dialog::crs_identifier(GetParam().typed), GetParam().identifier);
+}
+
+INSTANTIATE_TEST_SUITE_P(Typed, Identifiers,
+                         testing::Values(identifier_case{"Blanks", L"  4326\t", L"EPSG:4326"},
+                                         identifier_case{"Sign", L"+4326", L"EPSG:4326"},
+                                         identifier_case{"LettersBehind", L"4326a", L"4326a"},
+                                         identifier_case{"WithAuthority", L" EPSG:3857\v", L"EPSG:3857"},
+                                         identifier_case{"TooLarge", L"2147483648", L"2147483648"},
+                                         identifier_case{"Largest", L"2147483647", L"EPSG:2147483647"},
+                                         identifier_case{"TwoSigns", L"+-5", L"+-5"},
+                                         identifier_case{"Empty", L" \n", L""}),
+                         case_name);
+
+/// Text of the one multi-line output of an element.
+std::wstring description_of(toolkit::grid_layout<2, 1>& element) {
+    struct finder : element_visitor_impl {
+        custom_pointer found{};
+        void multiline_output(custom_pointer element) override { found = element; }
+    } finder;
+    element.visit_cell(0, 0, make_pointer<element_visitor_impl>(finder));
+    return read_text([&](custom_pointer v) { call<&multiline_output_impl::visit_text>(finder.found, v); });
+}
+
+/// Presses button number `index` of the row below the description.
+void press(element::proj4_input& input, int index) {
+    struct presser : element_visitor_impl {
+        int index = 0;
+        custom_pointer self() { return make_pointer<element_visitor_impl>(*this); }
+        void grid_layout(custom_pointer row) override {
+            call<&grid_layout_impl::visit_cell>(row, index, 0, self());
+        }
+        void button(custom_pointer element) override { call<&button_impl::click>(element); }
+    } presser;
+    presser.index = index;
+    input.visit_cell(0, 1, presser.self());
+}
+
+TEST_F(Elements, Proj4InputLoadsSavesAndDescribes) {
+    dialogs host_dialogs;
+    element::proj4_input input;
+    int changes = 0;
+    subscription heard(input.changed(), [&] { ++changes; });
+    EXPECT_EQ(description_of(input), L"No projection is defined");
+    press(input, 1);  // a cancelled file dialog
+    host_dialogs.path = L"unknown.pj4";
+    press(input, 1);  // nothing in it
+    EXPECT_EQ(changes, 0);
+    host().files[L"zone.pj4"] = L"+proj=utm +zone=40";
+    host_dialogs.path = L"zone.pj4";
+    press(input, 1);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(input.text(), L"+proj=utm +zone=40");
+    EXPECT_EQ(description_of(input), L"described: +proj=utm +zone=40");
+    host_dialogs.path = L"copy.prj";
+    press(input, 0);
+    EXPECT_EQ(host().files[L"copy.prj"], L"+proj=utm +zone=40");
+}
+
+struct menu_seen : tool_set_visitor_impl {
+    std::vector<std::wstring> ids, captions;
+    std::vector<custom_pointer> tools;
+    void visit_tool_set(custom_pointer set) override {
+        call<&tool_set_impl::visit_tools>(set, make_pointer<tool_set_visitor_impl>(*this));
+    }
+    void visit_action_tool(const wchar_t* id, custom_pointer tool) override {
+        ids.emplace_back(id);
+        captions.push_back(
+            read_text([&](custom_pointer v) { call<&action_tool_impl::visit_caption>(tool, v); }));
+        tools.push_back(tool);
+    }
+};
+
+TEST_F(Elements, TheSuggestionMenuSetsTheText) {
+    element::proj4_input input;
+    input.set_suggestions({{L"Zone 40", L"+proj=utm +zone=40"}, {L"None", L""}});
+    toolkit::toolbar<element::detail::proj4_input_toolset, context_menu_impl, void> menu(input);
+    menu_seen seen;
+    menu.visit_tool_sets(make_pointer<tool_set_visitor_impl>(seen));
+    EXPECT_EQ(seen.ids,
+              (std::vector<std::wstring>{L"ox_common_proj4_input_menu_0", L"ox_common_proj4_input_menu_1"}));
+    EXPECT_EQ(seen.captions, (std::vector<std::wstring>{L"Zone 40", L"None"}));
+    element_view_slots view;
+    call<&action_tool_impl::attach_view>(seen.tools[0], make_pointer(view));
+    call<&action_tool_impl::click>(seen.tools[0]);
+    EXPECT_EQ(input.text(), L"+proj=utm +zone=40");
+    call<&action_tool_impl::click>(seen.tools[1]);
+    EXPECT_EQ(description_of(input), L"described: ");  // set, and empty
+    call<&action_tool_impl::attach_view>(seen.tools[0],
+                                         custom_pointer{});  // gone; the other ends with the menu
+}
+
+TEST_F(Elements, TheCrsDialogClosesWithAResultOnly) {
+    dialogs host_dialogs;
+    host().crs[L"EPSG:32640"] = L"+proj=utm +zone=40";
+    host_dialogs.user = [](custom_pointer docker, custom_pointer buttons) {
+        struct finder : element_visitor_impl {
+            custom_pointer input_{};
+            void grid_layout(custom_pointer grid) override {
+                const int columns = call<&grid_layout_impl::column_count>(grid);
+                for (int i = 0; i < columns * call<&grid_layout_impl::row_count>(grid); ++i)
+                    call<&grid_layout_impl::visit_cell>(grid, i % columns, i / columns,
+                                                        make_pointer<element_visitor_impl>(*this));
+            }
+            void input(custom_pointer element) override { input_ = element; }
+        } finder;
+        finder.grid_layout(call<&docker_impl::element>(docker));
+        const auto type = [&](const wchar_t* text) {
+            call<&input_impl::set_text>(finder.input_, text);
+            return call<&input_impl::commit>(finder.input_);
+        };
+        const auto apply_enabled = [&] { return call<&button_box_impl::enabled>(buttons, 0); };
+        EXPECT_FALSE(apply_enabled());
+        EXPECT_TRUE(type(L"32640"));
+        EXPECT_TRUE(apply_enabled());
+        EXPECT_FALSE(type(L"nowhere"));
+        EXPECT_FALSE(apply_enabled());
+        EXPECT_FALSE(call<&button_box_impl::click>(buttons, 0));
+        type(L" 32640 ");
+        return call<&button_box_impl::click>(buttons, 0);
+    };
+    EXPECT_EQ(dialog::ask_crs(), L"+proj=utm +zone=40");
+    host_dialogs.user = nullptr;
+    EXPECT_EQ(dialog::ask_crs(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace ox

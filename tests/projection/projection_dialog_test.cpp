@@ -1,0 +1,261 @@
+// The projection dialog over a small catalogue: what a text is taken for, and what comes back.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "case_name.h"
+#include "double/host_double.h"
+#include "projection/projection_dialog.h"
+#include "support/catalogue_columns.h"
+#include "support/dbf.h"
+#include "support/encodings.h"
+
+namespace ox {
+namespace {
+
+namespace fs = std::filesystem;
+using host_double::host;
+using row = std::map<std::string, std::string>;
+
+template <class Columns>
+void write_table(const fs::path& path, const Columns& columns, const std::vector<row>& rows) {
+    std::vector<Tox_dbf_field_def> fields;
+    for (const auto& column : columns) fields.push_back({std::string(column), 'C', 40, 0});
+    Tox_dbf table;
+    ASSERT_EQ(table.dbf_create(path.string(), fields, static_cast<std::uint32_t>(rows.size())), 0);
+    for (std::uint32_t i = 0; i < rows.size(); ++i) {
+        table.go_record(i);
+        for (const auto& [column, text] : rows[i]) {
+            std::uint32_t index = 0;
+            ASSERT_TRUE(table.find_field(column, index)) << column;
+            table.set_text(index, text);
+        }
+    }
+    table.dbf_close();
+}
+
+row zone(int number, double lon_0) {
+    return {{"PRJ_NAME", "GK"},  {"PROJ", "tmerc"},
+            {"LON_0", "1"},      {"LON_0_V", std::to_string(lon_0)},
+            {"LAT_0", "1"},      {"LAT_0_V", "0"},
+            {"K_0", "1"},        {"K_0_V", "1"},
+            {"X_0", "1"},        {"X_0_V", std::to_string(number) + "500000"},
+            {"Y_0", "1"},        {"Y_0_V", "0"},
+            {"UNITS", "1"},      {"UNITS_V", "m"},
+            {"ZONE", "1"},       {"ZONE_V", std::to_string(number)},
+            {"DATUM", "Pulkovo"}};
+}
+row utm(int number, bool south) {
+    row record{{"PRJ_NAME", south ? "UTM South" : "UTM North"},
+               {"PROJ", "utm"},
+               {"ZONE", "1"},
+               {"ZONE_V", std::to_string(number)},
+               {"UNITS", "1"},
+               {"UNITS_V", "m"}};
+    if (south) record["SOUTH"] = "1";
+    return record;
+}
+
+class Dialog : public testing::Test {
+protected:
+    void SetUp() override {
+        host_double::reset();
+        folder_ = fs::temp_directory_path() /
+                  ("ox_dialog_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+                   std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+        fs::create_directories(folder_ / "prj_def");
+        host().executable = (folder_ / "host").wstring();
+    }
+    void TearDown() override {
+        fs::remove_all(folder_);
+        EXPECT_EQ(host().alive(), 0);
+    }
+    void write_catalogue() const {
+        const fs::path tables = folder_ / "prj_def";
+        write_table(tables / "pj_ellps.dbf", ellps_columns,
+                    {{{"ELLPS_ID", "1"},
+                      {"ELLPS_NAME", "WGS 84"},
+                      {"ELLPS", "WGS84"},
+                      {"A", "6378137"},
+                      {"RF", "298.257223563"}},
+                     {{"ELLPS_ID", "2"},
+                      {"ELLPS_NAME", "Krassovsky"},
+                      {"ELLPS", "krass"},
+                      {"A", "6378245"},
+                      {"RF", "298.3"}},
+                     {{"ELLPS_ID", "3"}, {"ELLPS_NAME", "Own"}, {"A", "6370000"}, {"B", "6350000"}}});
+        write_table(tables / "pj_datum.dbf", datum_columns,
+                    {{{"DATUM_NAME", "WGS84"}, {"DATUM", "WGS84"}, {"ELLPS_ID", "1"}},
+                     {{"DATUM_NAME", "Pulkovo"},
+                      {"SHIFT_X0", "24"},
+                      {"SHIFT_Y0", "-123"},
+                      {"SHIFT_Z0", "-94"},
+                      {"ELLPS_ID", "2"}}});
+        write_table(tables / "pj_proj1.dbf", projection_columns,
+                    {{{"PRJ_NAME", "Transverse Mercator"},
+                      {"PROJ", "tmerc"},
+                      {"LON_0", "1"},
+                      {"LAT_0", "1"},
+                      {"K_0", "1"},
+                      {"K_0_V", "0.9996"},
+                      {"X_0", "1"},
+                      {"Y_0", "1"},
+                      {"UNITS", "1"},
+                      {"UNITS_V", "m"}},
+                     {{"PRJ_NAME", "Lambert"},
+                      {"PROJ", "lcc"},
+                      {"LON_0", "1"},
+                      {"LAT_0", "1"},
+                      {"LAT_1", "1"},
+                      {"LAT_1_MIN", "-89"},
+                      {"LAT_1_MAX", "89"},
+                      {"LAT_2", "1"},
+                      {"X_0", "1"},
+                      {"Y_0", "1"},
+                      {"UNITS", "1"},
+                      {"UNITS_V", "m"}}});
+        write_table(tables / "pj_proj2.dbf", projection_columns,
+                    {zone(7, 39), zone(8, 45), utm(40, false), utm(40, true)});
+    }
+
+    fs::path folder_;
+};
+
+struct text_case {
+    const char* name;
+    const wchar_t *given, *result;
+};
+
+class Texts : public Dialog, public testing::WithParamInterface<text_case> {};
+
+TEST_P(Texts, ComeBackNormalised) {
+    write_catalogue();
+    dialog::projection projection;
+    projection.set_text(GetParam().given);
+    const std::wstring result = projection.text();
+    EXPECT_EQ(result, GetParam().result);
+    projection.set_text(result);
+    EXPECT_EQ(projection.text(), result) << "no fixed point";
+}
+
+#define TAIL L" +lon_wrap=45 +no_defs"
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, Texts,
+    testing::Values(text_case{"Undefined", L"", L""},
+                    text_case{"Unknown", L"+proj=nowhere +ellps=krass", L""},
+                    text_case{"Geographic", L"+proj=latlong +datum=WGS84",
+                              L"+proj=longlat +datum=WGS84 +ellps=WGS84" TAIL},
+                    text_case{"GeographicCustomDatum", L"+proj=longlat +ellps=krass +towgs84=1,2,3",
+                              L"+proj=longlat +towgs84=1,2,3,0,0,0,0 +ellps=krass" TAIL},
+                    text_case{"UtmNorth", L"+proj=utm +zone=40 +datum=WGS84",
+                              L"+proj=utm +zone=40 +datum=WGS84 +ellps=WGS84 +units=m" TAIL},
+                    text_case{"UtmSouth", L"+proj=UTM +zone=40 +south +ellps=WGS84",
+                              L"+proj=utm +zone=40 +south +datum=WGS84 +ellps=WGS84 +units=m" TAIL},
+                    text_case{"UtmOfAnUnknownZone", L"+proj=utm +zone=17 +ellps=WGS84", L""},
+                    text_case{"ZonalByParameters",
+                              L"+proj=tmerc +lat_0=0 +lon_0=45 +k=1 +x_0=8500000 +y_0=0 +ellps=krass "
+                              L"+towgs84=24,-123,-94,0,0,0,0",
+                              L"+proj=tmerc +lon_0=45 +lat_0=0 +x_0=8500000 +y_0=0 +k_0=1 "
+                              L"+towgs84=24,-123,-94,0,0,0,0 +ellps=krass +units=m" TAIL},
+                    text_case{"WithoutItsDatumItIsUsual",
+                              L"+proj=tmerc +lat_0=0 +lon_0=45 +k=1 +x_0=8500000 +y_0=0 +ellps=krass",
+                              L"+proj=tmerc +lon_0=45 +lat_0=0 +x_0=8500000 +y_0=0 +k_0=1 "
+                              L"+towgs84=0,0,0,0,0,0,0 +ellps=krass +units=m" TAIL},
+                    text_case{"UnusedParametersGo", L"+proj=lcc +lat_1=10 +lat_2=20 +alpha=5 +ellps=WGS84",
+                              L"+proj=lcc +lon_0=0 +lat_0=0 +x_0=0 +y_0=0 +lat_1=10 +lat_2=20 +datum=WGS84 "
+                              L"+ellps=WGS84 +units=m" TAIL},
+                    text_case{"AxesWithoutCode", L"+proj=longlat +a=6370000 +b=6350000",
+                              L"+proj=longlat +towgs84=0,0,0,0,0,0,0 +a=6370000 +b=6350000" TAIL},
+                    text_case{"UnknownEllipsoidIsWgs84", L"+proj=longlat +ellps=nobody",
+                              L"+proj=longlat +datum=WGS84 +ellps=WGS84" TAIL}),
+    case_name);
+
+TEST_F(Dialog, OpensOnWhateverStandsInTheFolder) {
+    const fs::path tables = folder_ / "prj_def";
+    const auto open_on = [&](const char* what) {
+        SCOPED_TRACE(what);
+        dialog::projection projection;
+        projection.set_text(L"+proj=utm +zone=40 +ellps=WGS84");
+        EXPECT_EQ(projection.text(), L"");
+        projection.set_text(L"+proj=longlat +ellps=krass");
+        EXPECT_EQ(projection.text(), L"+proj=longlat +towgs84=0,0,0,0,0,0,0" TAIL);
+    };
+    open_on("no tables");
+    for (const char* name : {"pj_ellps.dbf", "pj_datum.dbf", "pj_proj1.dbf", "pj_proj2.dbf"})
+        write_table(tables / name, std::vector<std::string>{"NAME"}, {{{"NAME", "wrong"}}});
+    open_on("other columns");
+    for (const auto& entry : fs::directory_iterator(tables)) fs::resize_file(entry, 20);
+    open_on("cut");
+    EXPECT_TRUE(host().errors.empty() && host().messages.empty());
+}
+
+// ---- As the user sees it: the model and the groups ----
+
+TEST_F(Dialog, ChoicesFollowTheCatalogue) {
+    write_catalogue();
+    dialog::projection_model model;
+    model.classify("+proj=longlat +datum=WGS84");
+    model.set_type(dialog::projection_type::zonal);
+    element::proj_params group(model);
+    group.show_type();
+    EXPECT_EQ(group.zone(), 7);
+    model.choose_zone(8);
+    EXPECT_EQ(model.current()->lon_0.value, 45);
+    model.choose_projection(4);  // UTM South
+    EXPECT_EQ(model.compose(group.values(), 40),
+              "+proj=utm +zone=40 +south +datum=WGS84 +ellps=WGS84 +units=m +lon_wrap=45 +no_defs");
+    model.choose_datum(2);
+    EXPECT_EQ(model.ellipsoid()->code, "krass");
+    model.choose_datum(0);  // a custom datum that is not said yet
+    EXPECT_EQ(model.compose(group.values(), 40),
+              "+proj=utm +zone=40 +south +ellps=krass +units=m +lon_wrap=45 +no_defs");
+    model.set_datum_values({24, -123, -94, 0, 0, 0, 0});
+    EXPECT_EQ(model.datum()->name, "Pulkovo");
+    model.set_datum_values({24, -123, -95, 0, 0, 0, 0});
+    EXPECT_EQ(model.datum()->name, "<Custom>");
+}
+
+TEST_F(Dialog, GridsAreKeptOnlyByATextWithoutProjection) {
+    write_catalogue();
+    for (const auto& [given, kept] :
+         {std::pair(L"+proj=longlat +nadgrids=x.gsb", false), std::pair(L"+nadgrids=x.gsb", true)}) {
+        dialog::projection_model model;
+        model.classify(wide_to_utf8(given));
+        model.set_type(dialog::projection_type::geographic);
+        EXPECT_EQ(model.compose({}, 0).find("+nadgrids=x.gsb") != std::string::npos, kept);
+    }
+}
+
+TEST_F(Dialog, FavouritesFollowTheText) {
+    write_catalogue();
+    const std::wstring geographic = L"+proj=longlat +datum=WGS84 +ellps=WGS84" TAIL;
+    host().favourites = {{L"other", L"+proj=longlat"}, {L"mine", geographic}, {L"twin", geographic}};
+    {
+        dialog::favourites_model favourites;
+        std::wstring text;
+        favourites.current_text = [&] { return text; };
+        favourites.apply_text = [&](const std::wstring& pj4) { text = pj4, favourites.reselect(); };
+        favourites.append();  // nothing to add
+        EXPECT_EQ(favourites.count(), 3);
+        text = geographic;
+        favourites.reselect();
+        EXPECT_EQ(favourites.selected(), 1);
+        favourites.choose(0);
+        EXPECT_EQ(text, L"+proj=longlat");
+        text = L"+proj=LONGLAT";
+        favourites.append();
+        EXPECT_EQ(favourites.selected(), 3);
+        EXPECT_EQ(favourites.caption(3), L"short: +proj=LONGLAT");
+        favourites.rename(3, L"new");
+        favourites.choose(2);
+        favourites.remove_selected();  // the twin of index 1, which the text selected
+        favourites.remove_selected();
+    }
+    EXPECT_EQ(host().log, (std::vector<std::string>{"delete favourite 1", "delete favourite -1"}));
+    ASSERT_EQ(host().favourites.size(), 3u);
+    EXPECT_EQ(host().favourites[2].caption, L"new");
+}
+
+}  // namespace
+}  // namespace ox

@@ -1,0 +1,60 @@
+#include "support/encodings.h"
+
+#include <gtest/gtest.h>
+
+#include "support/case_name.h"
+#include "support/host_basic_double.h"
+#include "support/string_adapter.h"
+
+namespace {
+
+struct conversion {
+    const char* name;
+    std::size_t encoding;
+    std::string narrow;
+    std::wstring wide;
+};
+
+class Encodings : public testing::TestWithParam<conversion> {};
+
+TEST_P(Encodings, ConvertBothWays) {
+    const auto& [name, encoding, narrow, wide] = GetParam();
+    EXPECT_EQ(ox::to_wide(narrow.data(), narrow.size(), encoding), wide);
+    EXPECT_EQ(ox::to_narrow(wide.data(), wide.size(), encoding), narrow);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Encodings,
+    testing::Values(conversion{"Utf8", 0, "\xD0\x96", L"\u0416"}, conversion{"Cp1251", 8, "\xC6", L"\u0416"},
+                    conversion{"Cp1252", 9, "\xC6", L"\u00C6"}, conversion{"Cp866", 16, "\x86", L"\u0416"},
+                    conversion{"Ascii", 17, "abc", L"abc"}, conversion{"System", 18, "abc", L"abc"},
+                    conversion{"NoPageOfItsOwn", 1, "abc", L"abc"}, conversion{"Empty", 0, "", L""},
+                    conversion{"InnerNul", 0, std::string("a\0b", 3), std::wstring(L"a\0b", 3)}),
+    case_name);
+
+TEST(EncodingsOutside, NullAndUnknownEncodingGiveEmptyTexts) {
+    EXPECT_EQ(ox::to_wide(nullptr, 3, ox::encoding_utf8), L"");
+    EXPECT_EQ(ox::to_narrow(nullptr, 3, ox::encoding_utf8), "");
+    EXPECT_EQ(ox::to_wide("abc", 3, ox::text_encodings.size()), L"");
+}
+
+TEST(StringAdapter, EachDeliveryReplacesTheTarget) {
+    std::wstring target = L"before";
+    {
+        ox::Tox_std_wstring_adapter adapter(target);
+        EXPECT_EQ(test_host::live_adapters, 1);
+        EXPECT_EQ(target, L"before");
+        test_host::deliver_wide(adapter.handle(), L"\u0416");
+        EXPECT_EQ(target, L"\u0416");
+        test_host::deliver_narrow(adapter.handle(), "abc");
+        EXPECT_EQ(target, L"abc");
+        test_host::deliver_narrow(adapter.handle(), nullptr);
+        EXPECT_EQ(target, L"");
+        test_host::deliver_wide(adapter.handle(), L"again");
+        test_host::deliver_wide(adapter.handle(), nullptr);
+        EXPECT_EQ(target, L"");
+    }
+    EXPECT_EQ(test_host::live_adapters, 0);
+}
+
+}  // namespace
