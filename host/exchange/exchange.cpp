@@ -13,12 +13,12 @@ public:
     oxhost::import_counts import_lines(const std::filesystem::path& source,
                                        const oxhost::import_options& options,
                                        const std::function<void(oxhost::new_scene&&)>& sink) override {
-        return oxhost::import_with_gdal(source, options, sink);
+        return oxhost::import_file(source, options, sink);
     }
     void export_lines(const std::filesystem::path& out, const std::filesystem::path& project_file,
                       const std::string& crs,
                       const std::function<std::optional<oxhost::new_scene>()>& next) override {
-        oxhost::export_with_gdal(out, project_file, crs, next);
+        oxhost::export_to_file(out, project_file, crs, next);
     }
 };
 

@@ -136,8 +136,8 @@ private:
 
 }  // namespace
 
-import_counts import_with_gdal(const std::filesystem::path& source, const import_options& options,
-                               const std::function<void(new_scene&&)>& sink) {
+import_counts import_file(const std::filesystem::path& source, const import_options& options,
+                          const std::function<void(new_scene&&)>& sink) {
     const gdal_guard reports;
     if (!std::filesystem::exists(source)) reports.refuse(source, "no such file");
     const GDALDatasetUniquePtr data(GDALDataset::Open(source.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY));

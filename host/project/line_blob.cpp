@@ -1,9 +1,7 @@
 #include "project/line_blob.h"
 
-#include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstring>
 #include <string>
 
@@ -103,22 +101,6 @@ std::byte* put(std::byte* at, T value) {
 }
 
 }  // namespace
-
-void extent::add(const point& p) {
-    if (std::isfinite(p.x) && std::isfinite(p.y)) add(extent{p.x, p.y, p.x, p.y});
-}
-
-void extent::add(const extent& other) {
-    if (other.empty()) return;
-    if (empty()) {
-        *this = other;
-        return;
-    }
-    min_x = std::min(min_x, other.min_x);
-    min_y = std::min(min_y, other.min_y);
-    max_x = std::max(max_x, other.max_x);
-    max_y = std::max(max_y, other.max_y);
-}
 
 line_summary summarize(std::span<const point> line) {
     line_summary summary{.vertices = line.size(), .bounds = {}};

@@ -8,7 +8,7 @@ namespace {
 
 /// Pages of the log after which it is folded back on the way: each time waits for the disk, and 32 MB of log
 /// are a fair price for fewer waits.
-constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpoint=8000; PRAGMA secure_delete=OFF";
+constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpoint=8000";
 
 }  // namespace
 

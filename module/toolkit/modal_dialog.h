@@ -13,6 +13,11 @@ namespace ox::util {
 
 namespace detail {
 
+template <const wchar_t* Id>
+inline constexpr const wchar_t* id_text = Id;
+template <>
+inline constexpr const wchar_t* id_text<nullptr> = L"";
+
 /// The place itself. `Id` null stands for the dialogs without an id of their own.
 template <const wchar_t* Id>
 class modal_dialog final : public modal_dialog_impl {
@@ -36,18 +41,11 @@ public:
     }
 
     void report(custom_pointer modal_dialog_visitor) override {
-        call<&modal_dialog_visitor_impl::visit>(modal_dialog_visitor, id_text(),
+        call<&modal_dialog_visitor_impl::visit>(modal_dialog_visitor, id_text<Id>,
                                                 make_pointer<modal_dialog_impl>(dialog_));
     }
 
 private:
-    static constexpr const wchar_t* id_text() {
-        if constexpr (Id == nullptr)
-            return L"";
-        else
-            return Id;
-    }
-
     modal_dialog<Id> dialog_;
 };
 

@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
         pair_case{"RefusedAlike", "+proj=nonsense +k=1", "+k_0=1.0 +proj=nonsense +no_defs", true},
         pair_case{"RefusedDifferent", "+proj=nonsense +k=1", "+proj=nonsense +k=2", false},
         pair_case{"RefusedAgainstGood", texts::refused, texts::utm37, false}),
-    texts::case_name<pair_case>);
+    case_name);
 
 TEST(Crs, NamesWhatIsWrong) {
     EXPECT_EQ(crs_of(texts::refused)->error, "utm: Invalid value for zone");

@@ -43,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(Systems, Import,
                                          import_case{"WorldMercator", "EPSG:3395", {4341460, 7300000}, false},
                                          import_case{"WebMercator", "EPSG:3857", {4341460, 7300000}, false},
                                          import_case{"Wgs84", "EPSG:4326", {39, 55}, true}),
-                         texts::case_name<import_case>);
+                         case_name);
 
 TEST(Import, DeliversNothingForWhatIsNoPlaneSystem) {
     for (const char* identifier : {"", " ", "EPSG:999999", "4326", "4326a", "hello", "WGS", "EPSG:4978",

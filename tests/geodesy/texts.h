@@ -1,7 +1,6 @@
 #pragma once
 /// Texts and helpers that the geodesy tests share.
 
-#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <cctype>
@@ -9,6 +8,8 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+
+#include "case_name.h"
 
 namespace texts {
 
@@ -43,11 +44,6 @@ inline void write(const std::string& path, const std::string& content) { std::of
 inline std::string read(const std::string& path) {
     std::ifstream file(path);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-template <class Case>
-std::string case_name(const testing::TestParamInfo<Case>& info) {
-    return info.param.name;
 }
 
 }  // namespace texts

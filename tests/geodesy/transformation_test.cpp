@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
                    299.3249646,
                    {446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
                    {-1.5, 53}}),
-    texts::case_name<shift_case>);
+    case_name);
 
 TEST(Shift, OfBothSidesWithoutHeight) {
     const std::array<double, 7> pulkovo{23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22};

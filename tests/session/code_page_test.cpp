@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "platform/platform.h"
-#include "session/case_name.h"
+#include "case_name.h"
 
 namespace {
 

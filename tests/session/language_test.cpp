@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "session/case_name.h"
+#include "case_name.h"
 
 namespace {
 

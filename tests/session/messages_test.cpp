@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "session/case_name.h"
+#include "case_name.h"
 #include "session/console_messages.h"
 #include "session/language.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "session/case_name.h"
+#include "case_name.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/dbf_builder.h"
 #include "support/host_basic_double.h"
 #include "support/pieces.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <bit>
 
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/catalogue.h"
 #include "support/dbf.h"
 #include "support/dbf_builder.h"

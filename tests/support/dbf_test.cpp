@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/dbf_builder.h"
 #include "support/dbf_text.h"
 #include "support/lng_tables.h"

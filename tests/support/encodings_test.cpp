@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/host_basic_double.h"
 #include "support/string_adapter.h"
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/env_console.h"
 #include "support/lng_tables.h"
 #include "support/recording_env.h"

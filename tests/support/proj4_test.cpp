@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "projection/proj4_string.h"
-#include "support/case_name.h"
+#include "case_name.h"
 #include "support/numeric_locale.h"
 
 namespace {
