@@ -2,12 +2,7 @@
 
 #include "framework/call.h"
 #include "framework/factories.h"
-
-#if defined(_WIN32)
-#define OX_EXPORT extern "C" __declspec(dllexport)
-#else
-#define OX_EXPORT extern "C" __attribute__((visibility("default")))
-#endif
+#include "platform/border.h"
 
 namespace ox {
 

@@ -15,7 +15,8 @@ class scn2d_prf_reproj_utility final : public util::referent<utility_service_imp
 public:
     explicit scn2d_prf_reproj_utility(custom_pointer owner)
         : obj(owner),
-          utility({.caption = text::batch_project_sections, .dialog_caption = text::batch_project_sections}) {}
+          utility({.caption = text::batch_project_sections, .dialog_caption = text::batch_project_sections}) {
+    }
 
     void report(custom_pointer utility_visitor) override {
         call<&utility_visitor_impl::visit>(utility_visitor, id, make_pointer<utility_impl>(*this));

@@ -12,8 +12,8 @@ namespace ox {
 namespace detail {
 
 template <auto A, auto B>
-constexpr bool same_operation = std::is_same_v<std::integral_constant<decltype(A), A>,
-                                               std::integral_constant<decltype(B), B>>;
+constexpr bool same_operation =
+    std::is_same_v<std::integral_constant<decltype(A), A>, std::integral_constant<decltype(B), B>>;
 
 /// Table slot of an operation within the list of its interface; slot 0 is `polymorphic`.
 template <auto Operation, auto... All>

@@ -16,7 +16,8 @@ void visit_module_factories(custom_pointer factory_visitor) {
                                            make_pointer<service_factory_impl>(*factory));
 }
 
-custom_service_factory_impl::custom_service_factory_impl(const wchar_t* key) : basic_service_factory_impl(key) {
+custom_service_factory_impl::custom_service_factory_impl(const wchar_t* key)
+    : basic_service_factory_impl(key) {
     module_factories().push_back(this);
 }
 

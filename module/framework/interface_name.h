@@ -33,8 +33,8 @@ private:
     std::size_t length_ = 0;
 };
 
-#define OX_BOUND(words, version)                           \
-    struct words {                                         \
+#define OX_BOUND(words, version)                               \
+    struct words {                                             \
         static constexpr interface_name name{#words, version}; \
     };
 #define OX_PLAIN(words, version) OX_BOUND(words, version)

@@ -30,8 +30,8 @@ void local_factory_impl::visit_registry(custom_pointer registry) {
 }
 
 void local_factory_impl::visit_service(custom_pointer localizer_service) {
-    call<&localizer_service_impl::visit_localizer>(localizer_service, make_pointer<localizer_visitor_impl>(*this),
-                                                   context_);
+    call<&localizer_service_impl::visit_localizer>(localizer_service,
+                                                   make_pointer<localizer_visitor_impl>(*this), context_);
 }
 
 void local_factory_impl::visit_localizer(custom_pointer localizer) { localizer_.reset(localizer); }

@@ -20,7 +20,8 @@ std::array<Element, sizeof...(Row)> make_rows(Make make, std::index_sequence<Row
 }
 
 std::wstring zone_caption(const Tox_pj_proj& record) {
-    return record.zone_n.text.empty() ? std::to_wstring(record.zone.value) : system_to_wide(record.zone_n.text);
+    return record.zone_n.text.empty() ? std::to_wstring(record.zone.value)
+                                      : system_to_wide(record.zone_n.text);
 }
 
 }  // namespace
@@ -80,7 +81,8 @@ void proj_params::show_projections() {
         // A zonal projection stands once in the list, for all its zones.
         if (zonal && previous && dialog::same_name(previous->name, record.name)) continue;
         previous = &record;
-        items.push_back({system_to_wide(record.name), zonal ? model_.zonal_record(record.name).id : record.id});
+        items.push_back(
+            {system_to_wide(record.name), zonal ? model_.zonal_record(record.name).id : record.id});
     }
     projection_.set_items(std::move(items));
     const Tox_pj_proj* current = model_.current();
@@ -97,7 +99,8 @@ void proj_params::show_zones() {
         if (dialog::same_name(list[i].name, current->name))
             items.push_back({zone_caption(list[i]), static_cast<std::uint32_t>(list[i].zone.value)});
     zone_.set_items(std::move(items));
-    zone_.set_current_value(zonal ? std::optional(static_cast<std::uint32_t>(current->zone.value)) : std::nullopt);
+    zone_.set_current_value(zonal ? std::optional(static_cast<std::uint32_t>(current->zone.value))
+                                  : std::nullopt);
 }
 
 void proj_params::show_parameters() {

@@ -52,8 +52,8 @@ const Tox_pj_proj* projection_model::find_zonal() const {
     const auto proj = params_.proj.get();
     const auto zone = params_.zone.get();
     if (proj && zone && equal_no_case(*proj, "utm"))
-        if (const auto* record =
-                find_proj_by_code_zone_south(list_of(projection_type::zonal), *proj, *zone, params_.south.get().value_or(false)))
+        if (const auto* record = find_proj_by_code_zone_south(list_of(projection_type::zonal), *proj, *zone,
+                                                              params_.south.get().value_or(false)))
             return record;
     return proj ? find_zonal_by_parameters() : nullptr;
 }
@@ -73,12 +73,12 @@ const Tox_pj_proj* projection_model::find_zonal_by_parameters() const {
 const Tox_pj_proj* projection_model::find_usual() const {
     if (!params_.proj.present) return nullptr;
     return match_proj4(list_of(projection_type::usual), {.proj = params_.proj.value(),
-                                     .lat_0 = params_.lat_0.get().value_or(0),
-                                     .has_lat_1 = params_.lat_1.present,
-                                     .has_lat_2 = params_.lat_2.present,
-                                     .has_lat_ts = params_.lat_ts.present,
-                                     .has_k_0 = params_.k_0.present,
-                                     .south = params_.south.get().value_or(false)});
+                                                         .lat_0 = params_.lat_0.get().value_or(0),
+                                                         .has_lat_1 = params_.lat_1.present,
+                                                         .has_lat_2 = params_.lat_2.present,
+                                                         .has_lat_ts = params_.lat_ts.present,
+                                                         .has_k_0 = params_.k_0.present,
+                                                         .south = params_.south.get().value_or(false)});
 }
 
 const Tox_pj_ellps* projection_model::find_ellipsoid() const {

@@ -70,7 +70,9 @@ void projection::set_text(const std::wstring& pj4) {
     favourites_.reselect();
 }
 
-std::wstring projection::text() { return utf8_to_wide(model_.compose(parameters_.values(), parameters_.zone())); }
+std::wstring projection::text() {
+    return utf8_to_wide(model_.compose(parameters_.values(), parameters_.zone()));
+}
 
 void projection::type_chosen(std::uint32_t index) {
     if (index >= std::size(type_captions)) return;
@@ -88,7 +90,8 @@ void projection::show_parts() {
 void projection::command(std::uint32_t chosen) {
     switch (chosen) {
         case save_command:
-            if (const auto path = ask_save_projection_file(); !path.empty()) save_projection_file(path, text());
+            if (const auto path = ask_save_projection_file(); !path.empty())
+                save_projection_file(path, text());
             break;
         case load_command:
             if (const auto path = ask_open_projection_file(); !path.empty())

@@ -19,7 +19,8 @@ public:
     void visit_hint(custom_pointer string_visitor) override { visit_text_of(hint_, string_visitor); }
     void visit_menu(custom_pointer context_menu_visitor) override {
         if (menu_)
-            call<&context_menu_visitor_impl::visit>(context_menu_visitor, make_pointer<context_menu_impl>(*menu_));
+            call<&context_menu_visitor_impl::visit>(context_menu_visitor,
+                                                    make_pointer<context_menu_impl>(*menu_));
     }
     bool enabled() override { return enabled_; }
     bool flag_2() override { return flag_2_; }

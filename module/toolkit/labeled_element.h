@@ -26,8 +26,7 @@ public:
         : X(std::forward<A>(arguments)...), with_place(caption) {}
 
     /// Greys the caption along with the control.
-    void set_enabled(bool enabled)
-        requires requires(X& x) { x.set_enabled(true); }
+    void set_enabled(bool enabled) requires requires(X& x) { x.set_enabled(true); }
     {
         X::set_enabled(enabled);
         caption_label().set_enabled(enabled);

@@ -85,7 +85,9 @@ public:
         : caption_(caption), second_text_(second_text) {}
 
     void visit_caption(custom_pointer string_visitor) override { visit_text_of(caption_, string_visitor); }
-    void visit_second_text(custom_pointer string_visitor) override { visit_text_of(second_text_, string_visitor); }
+    void visit_second_text(custom_pointer string_visitor) override {
+        visit_text_of(second_text_, string_visitor);
+    }
     void visit_content(custom_pointer element_visitor) override {
         call<&element_visitor_impl::grid_layout>(element_visitor, make_pointer<grid_layout_impl>(content_));
     }

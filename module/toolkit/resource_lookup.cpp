@@ -66,9 +66,10 @@ std::wstring string(std::int32_t id) {
 void visit_bitmap(std::int32_t id, colour_key key, custom_pointer bytes_visitor) {
     if (const custom_pointer localizer = localizer_of(id)) {
         detail::key_visitor keyed(bytes_visitor);
-        call<&localizer_impl::visit_bitmap>(
-            localizer, static_cast<std::uint32_t>(id),
-            key == colour_key::none ? bytes_visitor : make_pointer<thrice_interleaved_bytes_visitor_impl>(keyed));
+        call<&localizer_impl::visit_bitmap>(localizer, static_cast<std::uint32_t>(id),
+                                            key == colour_key::none
+                                                ? bytes_visitor
+                                                : make_pointer<thrice_interleaved_bytes_visitor_impl>(keyed));
         return;
     }
     const auto [module, number] = place_of(id);
@@ -78,8 +79,8 @@ void visit_bitmap(std::int32_t id, colour_key key, custom_pointer bytes_visitor)
     if (key != colour_key::none) apply_colour_key(bitmap);
     const std::int32_t stride = 4 * bitmap.width;
     const std::uint8_t* last_row = bitmap.pixels.get() + std::ptrdiff_t{stride} * (bitmap.height - 1);
-    call<&thrice_interleaved_bytes_visitor_impl::visit>(bytes_visitor, bitmap.height, -stride, bitmap.width, 4,
-                                                        bitmap.colour_key ? 4 : 3, 1, last_row);
+    call<&thrice_interleaved_bytes_visitor_impl::visit>(bytes_visitor, bitmap.height, -stride, bitmap.width,
+                                                        4, bitmap.colour_key ? 4 : 3, 1, last_row);
 }
 
 void visit_masked_bitmap(std::int32_t id, custom_pointer masked_bitmap_visitor) {
@@ -92,7 +93,8 @@ void visit_masked_bitmap(std::int32_t id, custom_pointer masked_bitmap_visitor) 
     if (!module) return;
     masked_bitmap bitmap(module, number);
     if (bitmap.loaded())
-        call<&masked_bitmap_visitor_impl::visit>(masked_bitmap_visitor, make_pointer<masked_bitmap_impl>(bitmap));
+        call<&masked_bitmap_visitor_impl::visit>(masked_bitmap_visitor,
+                                                 make_pointer<masked_bitmap_impl>(bitmap));
 }
 
 std::optional<std::wstring> raw_text(std::int32_t id, unsigned code_page) {
@@ -109,16 +111,19 @@ masked_bitmap::masked_bitmap(platform::resource_module module, std::uint32_t id)
 
 void masked_bitmap::visit_colour(custom_pointer bytes_visitor) { visit_plane(bytes_visitor, 0, 3); }
 
-void masked_bitmap::visit_mask(custom_pointer bytes_visitor) { visit_plane(bytes_visitor, buffer_.mask_offset, 1); }
+void masked_bitmap::visit_mask(custom_pointer bytes_visitor) {
+    visit_plane(bytes_visitor, buffer_.mask_offset, 1);
+}
 
-void masked_bitmap::visit_plane(custom_pointer bytes_visitor, std::uint32_t offset, std::int32_t channels) const {
+void masked_bitmap::visit_plane(custom_pointer bytes_visitor, std::uint32_t offset,
+                                std::int32_t channels) const {
     if (!buffer_.loaded) return;
     const auto width = static_cast<std::int32_t>(buffer_.width);
     const auto height = static_cast<std::int32_t>(buffer_.height);
     const std::int32_t stride = channels * width;
     const std::uint8_t* last_row = buffer_.pixels.get() + offset + std::ptrdiff_t{stride} * (height - 1);
-    call<&thrice_interleaved_bytes_visitor_impl::visit>(bytes_visitor, height, -stride, width, channels, channels,
-                                                        1, last_row);
+    call<&thrice_interleaved_bytes_visitor_impl::visit>(bytes_visitor, height, -stride, width, channels,
+                                                        channels, 1, last_row);
 }
 
 }  // namespace ox::resource

@@ -38,7 +38,8 @@ struct tools_visitor {
     /// Passes a tool to the host when it asks for the tool's group.
     void action(std::size_t tool_group, const wchar_t* id, action_tool_impl& tool) const {
         if (!collecting && group == tool_group)
-            call<&tool_set_visitor_impl::visit_action_tool>(visitor, id, make_pointer<action_tool_impl>(tool));
+            call<&tool_set_visitor_impl::visit_action_tool>(visitor, id,
+                                                            make_pointer<action_tool_impl>(tool));
     }
 };
 
@@ -101,7 +102,8 @@ public:
     explicit toolbar(A&&... arguments) : application_(std::forward<A>(arguments)...) {}
 
     void visit_tool_sets(custom_pointer tool_set_visitor) override {
-        call<&tool_set_visitor_impl::visit_tool_set>(tool_set_visitor, make_pointer<tool_set_impl>(application_));
+        call<&tool_set_visitor_impl::visit_tool_set>(tool_set_visitor,
+                                                     make_pointer<tool_set_impl>(application_));
     }
 
     T& application() { return application_; }

@@ -41,8 +41,9 @@ public:
     }
     void set_host_data(custom_pointer data) override { host_data_ = data; }
 
-    std::function<void(W&)> on_widget;                           ///< before the dialog is shown
-    std::function<bool(custom_pointer window)> on_host_request;  ///< the host asks before it starts the utility
+    std::function<void(W&)> on_widget;  ///< before the dialog is shown
+    std::function<bool(custom_pointer window)>
+        on_host_request;  ///< the host asks before it starts the utility
 
 protected:
     ~utility() = default;

@@ -46,7 +46,8 @@ inline constexpr std::uint32_t small_picture = 16;
 /// A bitmap resource; its pixels are loaded each time the host asks for them.
 class bitmap final : public bitmap_impl {
 public:
-    explicit bitmap(std::int32_t id, std::uint32_t width = small_picture, std::uint32_t height = small_picture)
+    explicit bitmap(std::int32_t id, std::uint32_t width = small_picture,
+                    std::uint32_t height = small_picture)
         : id_(id), width_(width), height_(height) {}
 
     std::uint32_t width() override { return width_; }

@@ -47,10 +47,10 @@ struct input_impl : binding<input_impl, input> {
     virtual bool commit() { return false; }
     virtual void attach_view(custom_pointer view) { (void)view; }
 
-    using table = operations<&input_impl::visit_text, &input_impl::visit_caption, &input_impl::enabled,
-                             &input_impl::flag_2, &input_impl::flag_3, &input_impl::value,
-                             &input_impl::text_selection, &input_impl::set_text, &input_impl::commit,
-                             &input_impl::attach_view>;
+    using table =
+        operations<&input_impl::visit_text, &input_impl::visit_caption, &input_impl::enabled,
+                   &input_impl::flag_2, &input_impl::flag_3, &input_impl::value, &input_impl::text_selection,
+                   &input_impl::set_text, &input_impl::commit, &input_impl::attach_view>;
 };
 
 struct floating_input_impl : binding<floating_input_impl, floating_input> {
@@ -62,16 +62,18 @@ struct floating_input_impl : binding<floating_input_impl, floating_input> {
     virtual bool enabled() { return true; }
     virtual bool read_only() { return false; }
     /// False when the value was refused; the old one then stands.
-    virtual bool set_value(double proposed) { (void)proposed; return false; }
+    virtual bool set_value(double proposed) {
+        (void)proposed;
+        return false;
+    }
     virtual std::size_t reserved() { return 0; }
     virtual void attach_view(custom_pointer view) { (void)view; }
 
-    using table = operations<&floating_input_impl::value, &floating_input_impl::minimum,
-                             &floating_input_impl::maximum, &floating_input_impl::decimals,
-                             &floating_input_impl::visit_caption, &floating_input_impl::enabled,
-                             &floating_input_impl::read_only, &floating_input_impl::set_value,
-                             &floating_input_impl::reserved, &floating_input_impl::reserved,
-                             &floating_input_impl::reserved, &floating_input_impl::attach_view>;
+    using table = operations<
+        &floating_input_impl::value, &floating_input_impl::minimum, &floating_input_impl::maximum,
+        &floating_input_impl::decimals, &floating_input_impl::visit_caption, &floating_input_impl::enabled,
+        &floating_input_impl::read_only, &floating_input_impl::set_value, &floating_input_impl::reserved,
+        &floating_input_impl::reserved, &floating_input_impl::reserved, &floating_input_impl::attach_view>;
 };
 
 struct dropdown_impl : binding<dropdown_impl, dropdown> {
@@ -99,7 +101,10 @@ struct multiline_output_impl : binding<multiline_output_impl, multiline_output> 
     virtual void visit_text(custom_pointer string_visitor) { (void)string_visitor; }
     virtual void visit_caption(custom_pointer string_visitor) { (void)string_visitor; }
     /// Copies the element's font into a font object of the host; false when it has none.
-    virtual bool copy_font(void* destination_font) { (void)destination_font; return false; }
+    virtual bool copy_font(void* destination_font) {
+        (void)destination_font;
+        return false;
+    }
     virtual bool reserved() { return false; }
     virtual bool enabled() { return true; }
     virtual std::uint32_t first_value() { return 0; }

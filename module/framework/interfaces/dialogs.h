@@ -100,15 +100,21 @@ struct button_box_impl : binding<button_box_impl, button_box> {
     virtual void visit_caption(std::int32_t index, custom_pointer string_visitor) {
         (void)index, (void)string_visitor;
     }
-    virtual bool enabled(std::int32_t index) { (void)index; return true; }
+    virtual bool enabled(std::int32_t index) {
+        (void)index;
+        return true;
+    }
     /// Does the dialog close?
-    virtual bool click(std::int32_t index) { (void)index; return false; }
+    virtual bool click(std::int32_t index) {
+        (void)index;
+        return false;
+    }
     virtual std::int32_t default_index() { return -1; }
     virtual std::int32_t second_index() { return -1; }
-    using table = operations<&button_box_impl::attach_first_view, &button_box_impl::attach_second_view,
-                             &button_box_impl::count, &button_box_impl::visit_caption,
-                             &button_box_impl::enabled, &button_box_impl::click,
-                             &button_box_impl::default_index, &button_box_impl::second_index>;
+    using table =
+        operations<&button_box_impl::attach_first_view, &button_box_impl::attach_second_view,
+                   &button_box_impl::count, &button_box_impl::visit_caption, &button_box_impl::enabled,
+                   &button_box_impl::click, &button_box_impl::default_index, &button_box_impl::second_index>;
 };
 
 }  // namespace ox

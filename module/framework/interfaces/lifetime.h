@@ -8,7 +8,10 @@ namespace ox {
 /// An object with a list of referrers; it ends when none of them holds it any more.
 struct referent_impl : binding<referent_impl, referent> {
     /// Number of referrers after the addition. An empty pointer is a pin: it counts as holding.
-    virtual std::size_t add_referrer(custom_pointer referrer) { (void)referrer; return 0; }
+    virtual std::size_t add_referrer(custom_pointer referrer) {
+        (void)referrer;
+        return 0;
+    }
     /// May destroy the object.
     virtual void remove_referrer(custom_pointer referrer) { (void)referrer; }
     /// Referent of the object that owns this one, or empty.

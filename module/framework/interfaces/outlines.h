@@ -17,7 +17,8 @@ struct outline_item_index_impl : binding<outline_item_index_impl, outline_item_i
                              &outline_item_index_impl::reserved>;
 };
 
-struct outline_item_index_visitor_impl : binding<outline_item_index_visitor_impl, outline_item_index_visitor> {
+struct outline_item_index_visitor_impl
+    : binding<outline_item_index_visitor_impl, outline_item_index_visitor> {
     virtual void visit(custom_pointer item) { (void)item; }
     using table = operations<&outline_item_index_visitor_impl::visit>;
 };
@@ -26,7 +27,10 @@ struct outline_item_index_visitor_impl : binding<outline_item_index_visitor_impl
 struct outline_checks_impl : binding<outline_checks_impl, outline_checks> {
     virtual std::size_t reserved() { return 0; }
     virtual bool flag() { return false; }
-    virtual bool state(custom_pointer item) { (void)item; return false; }
+    virtual bool state(custom_pointer item) {
+        (void)item;
+        return false;
+    }
     virtual void set_state(custom_pointer item, bool checked) { (void)item, (void)checked; }
     using table = operations<&outline_checks_impl::reserved, &outline_checks_impl::flag,
                              &outline_checks_impl::state, &outline_checks_impl::set_state>;
@@ -57,28 +61,37 @@ struct string_outline_column_impl : binding<string_outline_column_impl, string_o
         (void)item, (void)string_visitor;
     }
     /// Does `a` sort after `b`?
-    virtual bool sorts_after(custom_pointer a, custom_pointer b) { (void)a, (void)b; return false; }
+    virtual bool sorts_after(custom_pointer a, custom_pointer b) {
+        (void)a, (void)b;
+        return false;
+    }
     virtual void visit_cell_text(custom_pointer item, custom_pointer string_visitor) {
         (void)item, (void)string_visitor;
     }
     /// An edit in place.
     virtual void set_cell_text(custom_pointer item, const wchar_t* text) { (void)item, (void)text; }
-    virtual bool cell_is_editable(custom_pointer item) { (void)item; return false; }
-    virtual bool highlight(custom_pointer item) { (void)item; return false; }
+    virtual bool cell_is_editable(custom_pointer item) {
+        (void)item;
+        return false;
+    }
+    virtual bool highlight(custom_pointer item) {
+        (void)item;
+        return false;
+    }
 
-    using table = operations<
-        &string_outline_column_impl::reserved, &string_outline_column_impl::visit_caption,  // 2
-        &string_outline_column_impl::reserved, &string_outline_column_impl::reserved_true,
-        &string_outline_column_impl::visit_cell_hint,  // 5
-        &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
-        &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
-        &string_outline_column_impl::reserved, &string_outline_column_impl::sorts_after,  // 11
-        &string_outline_column_impl::reserved_true, &string_outline_column_impl::reserved,
-        &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
-        &string_outline_column_impl::visit_cell_text,  // 16
-        &string_outline_column_impl::set_cell_text, &string_outline_column_impl::cell_is_editable,
-        &string_outline_column_impl::highlight,  // 19
-        &string_outline_column_impl::reserved, &string_outline_column_impl::reserved>;
+    using table =
+        operations<&string_outline_column_impl::reserved, &string_outline_column_impl::visit_caption,  // 2
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::reserved_true,
+                   &string_outline_column_impl::visit_cell_hint,  // 5
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::sorts_after,  // 11
+                   &string_outline_column_impl::reserved_true, &string_outline_column_impl::reserved,
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::reserved,
+                   &string_outline_column_impl::visit_cell_text,  // 16
+                   &string_outline_column_impl::set_cell_text, &string_outline_column_impl::cell_is_editable,
+                   &string_outline_column_impl::highlight,  // 19
+                   &string_outline_column_impl::reserved, &string_outline_column_impl::reserved>;
 };
 
 /// [module implements]
@@ -89,15 +102,15 @@ struct bitmap_outline_column_impl : binding<bitmap_outline_column_impl, bitmap_o
         (void)item, (void)bitmap_visitor;
     }
 
-    using table = operations<
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::visit_caption,  // 2
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
-        &bitmap_outline_column_impl::visit_cell_image,  // 9
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
-        &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved>;
+    using table =
+        operations<&bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::visit_caption,  // 2
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
+                   &bitmap_outline_column_impl::visit_cell_image,  // 9
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved,
+                   &bitmap_outline_column_impl::reserved, &bitmap_outline_column_impl::reserved>;
 };
 
 /// A tree or table of items. Slots without a meaning here answer nothing, 0 or false. [module implements]
@@ -114,10 +127,19 @@ struct outline_impl : binding<outline_impl, outline> {
     virtual std::uint32_t value_8() { return 0; }
     virtual void visit_current_item(custom_pointer item_visitor) { (void)item_visitor; }
     virtual void set_current_item(custom_pointer item) { (void)item; }
-    virtual bool is_selected(custom_pointer item) { (void)item; return false; }
+    virtual bool is_selected(custom_pointer item) {
+        (void)item;
+        return false;
+    }
     virtual void set_selected(custom_pointer item, bool selected) { (void)item, (void)selected; }
-    virtual bool has_children(custom_pointer item) { (void)item; return false; }
-    virtual std::uint32_t child_count(custom_pointer item) { (void)item; return 0; }
+    virtual bool has_children(custom_pointer item) {
+        (void)item;
+        return false;
+    }
+    virtual std::uint32_t child_count(custom_pointer item) {
+        (void)item;
+        return 0;
+    }
     virtual bool flag_29() { return false; }
     virtual bool flag_30() { return false; }
     virtual std::int32_t index_33() { return -1; }
@@ -127,13 +149,13 @@ struct outline_impl : binding<outline_impl, outline> {
         &outline_impl::flag_1, &outline_impl::flag_2, &outline_impl::visit_root,                // 3
         &outline_impl::column_count, &outline_impl::visit_checks, &outline_impl::visit_column,  // 6
         &outline_impl::reserved, &outline_impl::value_8, &outline_impl::reserved, &outline_impl::reserved,
-        &outline_impl::reserved, &outline_impl::reserved, &outline_impl::visit_current_item,  // 13
+        &outline_impl::reserved, &outline_impl::reserved, &outline_impl::visit_current_item,   // 13
         &outline_impl::set_current_item, &outline_impl::reserved, &outline_impl::is_selected,  // 16
         &outline_impl::reserved, &outline_impl::set_selected,                                  // 18
         &outline_impl::reserved, &outline_impl::reserved, &outline_impl::reserved, &outline_impl::reserved,
         &outline_impl::reserved, &outline_impl::reserved, &outline_impl::reserved,
-        &outline_impl::has_children, &outline_impl::child_count,                  // 27
-        &outline_impl::reserved, &outline_impl::flag_29, &outline_impl::flag_30,  // 30
+        &outline_impl::has_children, &outline_impl::child_count,                    // 27
+        &outline_impl::reserved, &outline_impl::flag_29, &outline_impl::flag_30,    // 30
         &outline_impl::reserved, &outline_impl::reserved, &outline_impl::index_33,  // 33
         &outline_impl::reserved, &outline_impl::attach_view>;                       // 35
 };

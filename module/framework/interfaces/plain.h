@@ -7,9 +7,9 @@ namespace ox {
 
 #define OX_BOUND(words, version)
 #define OX_ASKED(words, version)
-#define OX_PLAIN(words, version)                           \
-    struct words##_impl : binding<words##_impl, words> {   \
-        using table = operations<>;                        \
+#define OX_PLAIN(words, version)                         \
+    struct words##_impl : binding<words##_impl, words> { \
+        using table = operations<>;                      \
     };
 #include "framework/interface_names.inc"
 #undef OX_PLAIN

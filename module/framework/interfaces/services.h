@@ -24,7 +24,9 @@ struct bundle_context_impl : binding<bundle_context_impl, bundle_context> {
 /// Services by category. Its polymorphic also answers the service visitors through which a module
 /// publishes. [host implements]
 struct service_registry_impl : binding<service_registry_impl, service_registry> {
-    virtual void visit(const wchar_t* key, custom_pointer service_visitor) { (void)key, (void)service_visitor; }
+    virtual void visit(const wchar_t* key, custom_pointer service_visitor) {
+        (void)key, (void)service_visitor;
+    }
     using table = operations<&service_registry_impl::visit>;
 };
 
@@ -53,7 +55,9 @@ struct localizer_impl : binding<localizer_impl, localizer> {
         (void)id, (void)string_visitor;
         return false;
     }
-    virtual void visit_bitmap(std::uint32_t id, custom_pointer bytes_visitor) { (void)id, (void)bytes_visitor; }
+    virtual void visit_bitmap(std::uint32_t id, custom_pointer bytes_visitor) {
+        (void)id, (void)bytes_visitor;
+    }
     virtual void visit_masked_bitmap(std::uint32_t id, custom_pointer masked_bitmap_visitor) {
         (void)id, (void)masked_bitmap_visitor;
     }

@@ -39,7 +39,9 @@ struct tool_set_impl : binding<tool_set_impl, tool_set> {
 /// Receives the tool sets of a toolbar or menu, and the tools of a set. [host implements]
 struct tool_set_visitor_impl : binding<tool_set_visitor_impl, tool_set_visitor> {
     virtual void visit_tool_set(custom_pointer tool_set) { (void)tool_set; }
-    virtual void visit_action_tool(const wchar_t* id, custom_pointer action_tool) { (void)id, (void)action_tool; }
+    virtual void visit_action_tool(const wchar_t* id, custom_pointer action_tool) {
+        (void)id, (void)action_tool;
+    }
     /// The kinds of tool that this module does not build.
     virtual std::size_t other() { return 0; }
     using table = operations<&tool_set_visitor_impl::visit_tool_set, &tool_set_visitor_impl::other,
