@@ -14,7 +14,7 @@ constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpo
 
 std::string explain(const sqlite::error& e) {
     if (e.code == SQLITE_READONLY_ROLLBACK)
-        return "was left in the middle of a change: open it for writing once, then again";
+        return "was left in the middle of a change, which opening it for writing undoes";
     switch (e.primary()) {
         case SQLITE_NOTADB:
             return "is no SQLite database";
@@ -124,6 +124,7 @@ void project::store::close() {
     open = {};
     lent.clear();
     std::string failure;
+    std::error_code ignored;
     try {
         if (changed && mode == open_mode::read_write) {
             extent bounds;
@@ -134,6 +135,8 @@ void project::store::close() {
         for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};
         if (logging && db.ask("PRAGMA journal_mode=DELETE") != "delete")
             failure = "its changes stay in the log beside it";
+        else if (logging)  // a reader of the log that a killed process left has left this one
+            std::filesystem::remove(file.string() + "-shm", ignored);
     } catch (const sqlite::error& e) {
         failure = "its changes stay in the log beside it: " + explain(e);
     }

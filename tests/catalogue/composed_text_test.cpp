@@ -1,4 +1,4 @@
-/// Texts composed of the rows: PROJ takes them, and the catalogue finds the row again.
+/// Texts composed of the rows: PROJ takes them, and the projection dialog gives them back unchanged.
 
 #include <gtest/gtest.h>
 
@@ -6,102 +6,67 @@
 
 #include "catalogue/catalogue_tables.h"
 #include "catalogue/proj_objects.h"
-#include "support/text.h"
+#include "projection/proj_params.h"
 
 namespace catalogue_test {
 namespace {
 
-/// Row, and the row that its text comes back to.
-using names = std::map<std::string, std::string>;
-
 const ox::Tox_pj_datum& wgs84() { return *find_datum_by_code(built().datums, "WGS84"); }
 
-ox::Tox_proj4_params parsed(const std::string& text) {
-    ox::Tox_proj4_params params;
-    params.set_text(text);
-    params.parse();
-    return params;
+/// What the projection dialog makes of a text that it is opened on and confirmed with.
+struct confirmed {
+    std::string text;
+    std::string projection;  ///< name of the record that the text was taken for
+    std::int32_t zone;
+};
+
+confirmed through_dialog(const std::string& text) {
+    static ox::dialog::projection_model model;  // classification forgets the text before
+    static ox::element::proj_params group(model);
+    model.classify(text);
+    group.show_type();
+    group.show_text_values();
+    return {model.compose(group.values(), group.zone()), model.current() ? model.current()->name : "",
+            group.zone()};
 }
 
-TEST(CatalogueComposedTexts, OfUsualProjectionsComeBackUnchanged) {
-    // Not told apart by what a text carries.
-    const names renamed{{"Gauss-Kruger (any meridian)", "Transverse Mercator"}};
-    names seen;
+void expect_unchanged(const std::string& text) {
+    EXPECT_TRUE(crs_of_text(text)) << text;
+    EXPECT_EQ(through_dialog(text).text, text);
+}
+
+TEST(CatalogueComposedTexts, OfUsualProjectionsComeBackUnchangedAndProject) {
+    std::map<std::string, std::string> renamed;
     for (std::size_t row = 0; row < built().usual.size(); ++row) {
         const auto& record = built().usual[row];
         const auto text = compose(record, plausible_inputs(record), &wgs84(), &ellps_of(wgs84()));
-        const auto params = parsed(text);
-        const auto* found =
-            match_proj4(built().usual, {params.proj.value(), params.lat_0.get().value_or(0),
-                                        params.lat_1.present, params.lat_2.present, params.lat_ts.present,
-                                        params.k_0.present, params.south.get().value_or(false)});
-        ASSERT_TRUE(found) << text;
-        EXPECT_EQ(compose(*found, params, &wgs84(), &ellps_of(wgs84())), text);
-        if (found != &record) seen[record.name] = found->name;
-    }
-    EXPECT_EQ(seen, renamed);
-}
-
-TEST(CatalogueComposedTexts, OfUsualProjectionsProject) {
-    for (std::size_t row = 0; row < built().usual.size(); ++row) {
-        const auto& record = built().usual[row];
-        const auto text = compose(record, plausible_inputs(record), &wgs84(), &ellps_of(wgs84()));
+        expect_unchanged(text);
+        if (const auto taken_for = through_dialog(text).projection; taken_for != record.name)
+            renamed[record.name] = taken_for;
         const double longitude = record.lon_0.has_value ? record.lon_0.value : 45;
         const double latitude = record.lat_0.has_value ? record.lat_0.value * 0.98
                                 : record.south.used    ? -80
                                                        : 51;
         EXPECT_TRUE(project(crs_of_text(text).get(), longitude + 1, latitude)) << record.name << ": " << text;
     }
+    // Nothing in a text tells them apart.
+    EXPECT_EQ(renamed,
+              (std::map<std::string, std::string>{{"Gauss-Kruger (any meridian)", "Transverse Mercator"}}));
 }
 
-TEST(CatalogueComposedTexts, OfDatumsComeBackUnchanged) {
-    // Equal numbers on one ellipsoid: the first name answers for all.
-    const names renamed{
-        {"GDA94", "ETRS89"}, {"JGD2000", "ETRS89"}, {"NZGD2000", "ETRS89"}, {"SIRGAS 2000", "ETRS89"}};
-    names seen;
+TEST(CatalogueComposedTexts, OfDatumsAndEllipsoidsComeBackUnchanged) {
     ox::Tox_pj_proj geographic;
     geographic.proj = "longlat";
     for (std::size_t row = 0; row < built().datums.size(); ++row) {
         const auto& datum = built().datums[row];
-        const auto text = compose(geographic, {}, &datum, &ellps_of(datum));
-        EXPECT_TRUE(crs_of_text(text)) << text;
-        const auto params = parsed(text);
-        const auto* ellps = params.ellps.present ? find_ellps_by_code(built().ellps, params.ellps.value())
-                                                 : find_ellps_by_axes(built().ellps, params.a.get(),
-                                                                      params.b.get(), params.rf.get());
-        ASSERT_TRUE(ellps) << text;
-        const auto* found = params.datum.present
-                                ? find_datum_by_code(built().datums, params.datum.value())
-                                : find_datum_by_params(built().datums, ellps->id, params.towgs84.value());
-        ASSERT_TRUE(found) << text;
-        EXPECT_EQ(compose(geographic, {}, found, ellps), text);
-        if (found != &datum) seen[datum.name] = found->name;
+        expect_unchanged(compose(geographic, {}, &datum, &ellps_of(datum)));
     }
-    EXPECT_EQ(seen, renamed);
-}
-
-TEST(CatalogueComposedTexts, OfEllipsoidsFindTheirAxesAgain) {
-    // Defined in feet: their axes in metres have more digits than a text.
-    const names renamed{{"Clarke 1858", "Clarke 1858 (12 digits)"},
-                        {"Clarke 1866 Michigan", "Clarke 1866 Michigan (12 digits)"},
-                        {"Clarke 1880", "Clarke 1880 (12 digits)"},
-                        {"Everest (1830 Definition)", "Everest (1830 Definition) (12 digits)"}};
-    names seen;
-    ox::Tox_pj_proj geographic;
-    geographic.proj = "longlat";
+    const ox::Tox_pj_datum no_shift;
     for (std::size_t row = 0; row < built().ellps.size(); ++row) {
-        const auto& ellps = built().ellps[row];
-        const auto text = compose(geographic, {}, nullptr, &ellps);
-        EXPECT_TRUE(crs_of_text(text)) << text;
-        if (!ellps.code.empty()) continue;
-        const auto params = parsed(text);
-        const auto* found =
-            find_ellps_by_axes(built().ellps, params.a.get(), params.b.get(), params.rf.get());
-        ASSERT_TRUE(found) << text;
-        EXPECT_EQ(compose(geographic, {}, nullptr, found), text);
-        if (found != &ellps) seen[ellps.name] = found->name;
+        // A datum is always current, so a text without shift comes back with one: of zeros, or WGS 84's.
+        const auto text = compose(geographic, {}, &no_shift, &built().ellps[row]);
+        expect_unchanged(through_dialog(text).text);
     }
-    EXPECT_EQ(seen, renamed);
 }
 
 struct axes_case {
@@ -122,23 +87,15 @@ TEST(CatalogueAxes, OfCommonTextsAreKnown) {
     }
 }
 
-/// A zonal text is known by its ellipsoid and towgs84; a datum with a code would be written without them.
-TEST(CatalogueComposedTexts, OfZonesAreRecognised) {
+TEST(CatalogueComposedTexts, OfZonesAreRecognisedWithTheirZone) {
     for (std::size_t row = 0; row < built().zonal.size(); ++row) {
         const auto& record = built().zonal[row];
         const auto* datum = find_datum_by_name(built().datums, record.datum.text);
         ASSERT_TRUE(datum) << record.name;
-        EXPECT_TRUE(crs_of_text(compose(record, {}, datum, &ellps_of(*datum)))) << record.name;
-        if (ox::equal_no_case(record.proj, "utm")) {
-            EXPECT_EQ(
-                find_proj_by_code_zone_south(built().zonal, "utm", record.zone.value, record.south.value),
-                &record);
-        } else {
-            EXPECT_EQ(find_datum_by_params(built().datums, datum->ellps_id, datum->towgs84()), datum)
-                << record.name;
-            EXPECT_EQ(datum->code, "") << record.name;
-        }
-        EXPECT_EQ(find_proj_by_name_zone(built().zonal, record.name, record.zone.value), &record);
+        const auto text = compose(record, {}, datum, &ellps_of(*datum));
+        expect_unchanged(text);
+        EXPECT_EQ(through_dialog(text).projection, record.name) << text;
+        EXPECT_EQ(through_dialog(text).zone, record.zone.value) << text;
     }
 }
 

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "project/project.h"
@@ -36,8 +37,9 @@ private:
 };
 
 inline std::string bytes_of(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return std::move(bytes).str();
 }
 
 inline void write_bytes(const fs::path& file, const std::string& bytes) {

@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "case_name.h"
+#include "double/host_double.h"
 #include "support/dbf_builder.h"
-#include "support/host_basic_double.h"
 #include "support/pieces.h"
 
 namespace {
@@ -188,11 +188,12 @@ TEST(CatalogueFind, ZonesAndGeographicEntries) {
 
 TEST(CataloguePath, StandsBesideTheExecutable) {
     const auto dir = [](const wchar_t* executable) {
-        test_host::main_module_path = executable;
+        host_double::host().executable = executable;
         return ox::catalogue_dir();
     };
     EXPECT_EQ(dir(L"C:\\Programs\\Host\\host.exe"), "C:\\Programs\\Host\\");
-    EXPECT_EQ(dir(L"/opt/\u0445\u043e\u0441\u0442/oxhost"), "/opt/\u0445\u043e\u0441\u0442/");
+    EXPECT_EQ(dir(L"/opt/\u0445\u043e\u0441\u0442/oxhost"),
+              ox::wide_to_system(L"/opt/\u0445\u043e\u0441\u0442/"));
     const std::wstring deep = L"/" + std::wstring(2000, L'd') + L"/oxhost";
     EXPECT_EQ(dir(deep.c_str()).size(), 1024u);
     const std::string separator = dir(L"oxhost");

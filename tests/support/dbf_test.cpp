@@ -125,7 +125,9 @@ TEST(Dbf, FailuresAreReportedInTheUsersLanguageWithTheFirstLetterOfThePath) {
     EXPECT_EQ(table.dbf_open("/nowhere/x.dbf", true), 1);
     EXPECT_EQ(reported.errors, std::vector<std::string>{"Can't open file: \"/\""});
     ox::lng_set(1);
-    ASSERT_EQ(table.dbf_open(dbf_builder().column("A", 'C', 2).row({"1"}).write(), true), 0);
+    const auto path = dbf_builder().column("A", 'C', 2).row({"1"}).write();
+    const std::string first_letter = "\"" + path.substr(0, 1) + "\"";
+    ASSERT_EQ(table.dbf_open(path, true), 0);
     EXPECT_EQ(reported.errors.size(), 1u);
     table.go_record(1);
     ox::lng_set(0);
@@ -134,8 +136,8 @@ TEST(Dbf, FailuresAreReportedInTheUsersLanguageWithTheFirstLetterOfThePath) {
     table.dbf_close();
     // The Russian reading message speaks of writing ("Ошибка записи в файл").
     EXPECT_EQ(reported.errors[1],
-              "\xCE\xF8\xE8\xE1\xEA\xE0 \xE7\xE0\xEF\xE8\xF1\xE8 \xE2 \xF4\xE0\xE9\xEB: \"/\"");
-    EXPECT_EQ(reported.errors[2], "Error writing file: \"/\"");
+              "\xCE\xF8\xE8\xE1\xEA\xE0 \xE7\xE0\xEF\xE8\xF1\xE8 \xE2 \xF4\xE0\xE9\xEB: " + first_letter);
+    EXPECT_EQ(reported.errors[2], "Error writing file: " + first_letter);
     const std::vector<ox::Tox_dbf_field_def> too_many(3000);
     EXPECT_EQ(table.dbf_create(dbf_builder::write(""), too_many, 0), 1);
 }

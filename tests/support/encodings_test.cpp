@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "case_name.h"
-#include "support/host_basic_double.h"
+#include "double/host_double.h"
 #include "support/string_adapter.h"
 
 namespace {
@@ -39,22 +39,23 @@ TEST(EncodingsOutside, NullAndUnknownEncodingGiveEmptyTexts) {
 }
 
 TEST(StringAdapter, EachDeliveryReplacesTheTarget) {
+    host_double::reset();
     std::wstring target = L"before";
     {
         ox::Tox_std_wstring_adapter adapter(target);
-        EXPECT_EQ(test_host::live_adapters, 1);
+        const auto& host = *static_cast<host_double::adapter*>(adapter.handle());
         EXPECT_EQ(target, L"before");
-        test_host::deliver_wide(adapter.handle(), L"\u0416");
+        host.wide(L"\u0416", host.context);
         EXPECT_EQ(target, L"\u0416");
-        test_host::deliver_narrow(adapter.handle(), "abc");
+        host.narrow("abc", host.context);
         EXPECT_EQ(target, L"abc");
-        test_host::deliver_narrow(adapter.handle(), nullptr);
+        host.narrow(nullptr, host.context);
         EXPECT_EQ(target, L"");
-        test_host::deliver_wide(adapter.handle(), L"again");
-        test_host::deliver_wide(adapter.handle(), nullptr);
+        host.wide(L"again", host.context);
+        host.wide(nullptr, host.context);
         EXPECT_EQ(target, L"");
     }
-    EXPECT_EQ(test_host::live_adapters, 0);
+    EXPECT_EQ(host_double::host().alive(), 0);
 }
 
 }  // namespace

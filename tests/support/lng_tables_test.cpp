@@ -4,8 +4,8 @@
 
 #include <cstdlib>
 
+#include "double/host_double.h"
 #include "support/encodings.h"
-#include "support/host_basic_double.h"
 
 namespace {
 
@@ -16,10 +16,10 @@ std::wstring russian(std::uint32_t group, std::int32_t index) {
 
 // The decision is made once per process, so each case runs in a fresh one.
 [[noreturn]] void first_lookup(int language, const std::string& expected) {
-    test_host::language = language;
+    host_double::host().language = language;
     ox::lng_set(language == 0 ? 0 : 1);  // before the first look-up: overruled by it
     const bool asked = ox::lng_text(10, 2) == expected;
-    test_host::language = language == 0 ? 50000 : 0;  // too late
+    host_double::host().language = language == 0 ? 50000 : 0;  // too late
     std::exit(asked && ox::lng_text(10, 2) == expected ? 0 : 1);
 }
 
