@@ -12,7 +12,7 @@ wine=$(type -P wine64 || type -P wine) || { echo "wine.sh: no wine64 here" >&2; 
 case ${1:?program} in
 --begin)
     mkdir -p "$WINEPREFIX"
-    wineserver -p
+    wineserver -p </dev/null >/dev/null 2>&1  # what stays behind must not hold the caller's output
     "$wine" wineboot -i </dev/null >/dev/null 2>&1
     ;;
 --end) wineserver -k ;;

@@ -91,7 +91,7 @@ private:
 class subscription {
 public:
     subscription(event<void()>& source, std::function<void()> callback)
-        : observer_(std::make_shared<events::observer>(false, std::move(callback))),
+        : observer_(std::make_shared<events::observer>(events::observer{false, std::move(callback)})),
           connection_(source.connect(observer_)) {}
 
     events::connection_base& connection() { return *connection_; }

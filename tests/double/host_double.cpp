@@ -13,7 +13,16 @@ void reset() { the_host = state(); }
 
 bool state::refuses(const std::string& call) {
     log.push_back(call);
-    return ++asked == refuse;
+    return counts_as_refused(call);
+}
+
+bool state::scene_refuses(const std::string& call) { return scenes_refuse && counts_as_refused(call); }
+
+bool state::counts_as_refused(const std::string& call) {
+    if (++asked != refuse) return false;
+    refused = call;
+    if (on_refusal) on_refusal();
+    return true;
 }
 
 scene& state::add(std::wstring caption, std::wstring pj4, line pv) {

@@ -61,10 +61,20 @@ struct HOST_DOUBLE_API state {
     std::size_t asked = 0;
     bool refuses(const std::string& call);
 
+    /// Scenes and their profile data count among the calls that may refuse; they do so unlogged.
+    bool scenes_refuse = false;
+    bool scene_refuses(const std::string& call);
+
+    std::string refused;               ///< the call that did
+    std::function<void()> on_refusal;  ///< while it does
+
     scene& add(std::wstring caption, std::wstring pj4, line pv = {{1, 2}, {3, 4}});
     void deliver(void* adapter_handle, const std::wstring& text) const;
     int alive() const;
     bool logged(const std::string& call) const;
+
+private:
+    bool counts_as_refused(const std::string& call);
 };
 
 /// The one host of the process.

@@ -15,8 +15,10 @@ std::uint32_t ox_scns_2d_get_size(void* collection) {
 }
 void* ox_scns_2d_get(void* collection, std::uint32_t index) { return scenes(collection)[index].get(); }
 void ox_scn_2d_get_wcaption(void* handle, void* adapter) { host().deliver(adapter, of(handle).caption); }
-void* ox_scn_2d_get_prf_data_ptr(void* handle) { return of(handle).has_data ? handle : nullptr; }
-bool ox_prf_data_get_is_profil(void* data) { return of(data).profile; }
+void* ox_scn_2d_get_prf_data_ptr(void* handle) {
+    return of(handle).has_data && !host().scene_refuses("profile data") ? handle : nullptr;
+}
+bool ox_prf_data_get_is_profil(void* data) { return of(data).profile && !host().scene_refuses("scene"); }
 void ox_prf_data_get_prj4string(void* data, void* adapter) { host().deliver(adapter, of(data).pj4); }
 void ox_prf_data_set_prj4string(void* data, const wchar_t* proj4) {
     host().log.push_back("text " + host_double::narrow(of(data).caption));

@@ -8,6 +8,7 @@
 #include "case_name.h"
 #include "double/host_double.h"
 #include "support/dbf_builder.h"
+#include "support/encodings.h"
 #include "support/pieces.h"
 
 namespace {

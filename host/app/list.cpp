@@ -1,0 +1,76 @@
+#include <CLI/CLI.hpp>
+#include <iomanip>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "app/command.h"
+#include "app/json.h"
+
+namespace oxhost::app {
+
+namespace {
+
+struct list_options {
+    std::filesystem::path project;
+    bool json = false;
+};
+
+std::size_t vertices(const scene& of) { return of.line ? of.line->vertices : 0; }
+
+void print_json(const project& of) {
+    auto rows = nlohmann::ordered_json::array();
+    for (const scene& each : of.scenes())
+        rows.push_back({{"index", each.index},
+                        {"caption", each.caption},
+                        {"profile", each.profile},
+                        {"proj4", each.proj4},
+                        {"vertices", vertices(each)}});
+    std::cout << json_text(rows) << '\n';
+}
+
+/// Characters of a UTF-8 text, as far as a table's columns need it.
+std::size_t width(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+void print_table(const project& of) {
+    const std::string heads[] = {std::string(in_language("Сцена", "Scene")),
+                                 std::string(in_language("Вершин", "Vertices")),
+                                 std::string(in_language("Проекция", "Projection"))};
+    std::size_t caption_width = width(heads[0]);
+    for (const scene& each : of.scenes()) caption_width = std::max(caption_width, width(each.caption));
+    const auto row = [&](const std::string& index, const std::string& caption, const std::string& count,
+                         const std::string& projection) {
+        std::cout << std::setw(5) << index << "  " << caption
+                  << std::string(caption_width - width(caption), ' ') << "  "
+                  << std::string(9 - std::min<std::size_t>(9, width(count)), ' ') << count << "  "
+                  << projection << '\n';
+    };
+    row("#", heads[0], heads[1], heads[2]);
+    for (const scene& each : of.scenes()) {
+        std::string projection = each.proj4.empty() ? std::string(in_language("нет", "none")) : each.proj4;
+        if (!each.profile)
+            projection = std::string(in_language("(не разрез) ", "(no profile) ")) + projection;
+        row(std::to_string(each.index), each.caption, std::to_string(vertices(each)), projection);
+    }
+}
+
+exit_code list(const list_options& options) {
+    const auto opened = open_project(options.project, open_mode::read_only);
+    options.json ? print_json(*opened) : print_table(*opened);
+    return exit_code::done;
+}
+
+}  // namespace
+
+void add_list(CLI::App& app, action& chosen) {
+    auto options = std::make_shared<list_options>();
+    CLI::App* command = app.add_subcommand("list", "List the scenes of a project");
+    command->add_option("project", options->project, "The project")->type_name("PROJECT.gpkg")->required();
+    command->add_flag("--json", options->json, "As JSON: index, caption, profile, proj4, vertices");
+    add_language(*command);
+    command->callback([options, &chosen] { chosen = [options] { return list(*options); }; });
+}
+
+}  // namespace oxhost::app

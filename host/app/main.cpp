@@ -1,0 +1,49 @@
+#include <CLI/CLI.hpp>
+#include <clocale>
+#include <iostream>
+
+#include "app/command.h"
+#include "app/version.h"
+
+namespace {
+
+using namespace oxhost::app;
+
+int answer(exit_code code) { return static_cast<int>(code); }
+
+int run(int argc, char** argv) {
+    CLI::App app{"Reprojects the section lines of 2D profile scenes", "oxhost"};
+    app.set_version_flag("--version", std::string("oxhost ") + oxhost_version);
+    app.require_subcommand(0, 1);
+    action chosen;
+    for (const auto add :
+         {add_import, add_list, add_reproject, add_export, add_describe, add_project, add_catalogue})
+        add(app, chosen);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        if (e.get_exit_code() == answer(exit_code::done)) return app.exit(e);  // --help, --version
+        std::cerr << "oxhost: " << e.what() << '\n';
+        return answer(exit_code::usage);
+    }
+    if (chosen) return answer(chosen());
+    std::cerr << "oxhost: a command is needed; --help lists them\n";
+    return answer(exit_code::usage);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // Characters and messages follow the locale; numbers never do.
+    std::setlocale(LC_CTYPE, "");
+    std::setlocale(LC_MESSAGES, "");
+    try {
+        return run(argc, argv);
+    } catch (const failure& e) {
+        std::cerr << "oxhost: " << e.what() << '\n';
+        return answer(e.code);
+    } catch (const std::exception& e) {
+        std::cerr << "oxhost: " << e.what() << '\n';
+        return answer(exit_code::internal);
+    }
+}

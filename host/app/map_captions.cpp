@@ -1,0 +1,62 @@
+#include "app/map_captions.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace oxhost::app {
+
+namespace {
+
+constexpr double letter_width = 6.6;  // of the picture's 11 px face, on average
+constexpr double line_height = 14;
+constexpr double distance = 7;  // from the line
+constexpr std::size_t most = 200;
+
+}  // namespace
+
+double map_captions::width_of(std::string_view text) {
+    const auto letters =
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
+    return letter_width * static_cast<double>(letters);
+}
+
+bool map_captions::is_free(const rectangle& box) const {
+    return within_.contains(box) &&
+           std::ranges::none_of(taken_, [&](const rectangle& other) { return other.overlaps(box); });
+}
+
+void map_captions::avoid(const polyline& path) {
+    constexpr double step = 8;
+    for (std::size_t i = 1; i < path.size(); ++i) {
+        const point from = path[i - 1], to = path[i];
+        const double pieces = std::ceil(std::hypot(to.x - from.x, to.y - from.y) / step);
+        for (double n = 0; n < pieces; ++n)
+            taken_.push_back({from.x + (to.x - from.x) * n / pieces - step / 2,
+                              from.y + (to.y - from.y) * n / pieces - step / 2, step, step});
+    }
+}
+
+void map_captions::add(const std::string& text, const polyline& path) {
+    if (path.empty() || placed_.size() >= most) return;
+    const double width = width_of(text);
+    const point middle = path[path.size() / 2];
+    const auto [west, east] = std::ranges::minmax(path, {}, [](const point& p) { return p.x; });
+    const double half = line_height / 2;
+    const rectangle tries[] = {
+        {east.x + distance, east.y - half, width, line_height},
+        {west.x - distance - width, west.y - half, width, line_height},
+        {middle.x + distance, middle.y + distance, width, line_height},
+        {middle.x - distance - width, middle.y - distance - line_height, width, line_height},
+        {middle.x - width / 2, middle.y - distance - line_height, width, line_height},
+        {middle.x - width / 2, middle.y + distance, width, line_height},
+        {middle.x + distance, middle.y - distance - line_height, width, line_height},
+        {middle.x - distance - width, middle.y + distance, width, line_height},
+        {within_.x + distance, within_.y + distance, width, line_height},
+        {within_.x + within_.width - distance - width, within_.y + distance, width, line_height}};
+    const auto found = std::ranges::find_if(tries, [&](const rectangle& box) { return is_free(box); });
+    if (found == std::end(tries)) return;
+    taken_.push_back(*found);
+    placed_.push_back({text, found->x, found->y + line_height - 3});
+}
+
+}  // namespace oxhost::app

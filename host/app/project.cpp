@@ -1,0 +1,133 @@
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "app/command.h"
+#include "app/dialog_text.h"
+#include "app/output_file.h"
+#include "app/plug_in_texts.h"
+#include "app/projection_dialog_drive.h"
+#include "app/target.h"
+
+namespace oxhost::app {
+
+namespace {
+
+using headless::dialog_hands;
+
+/// One act in the dialog, as the command line orders it.
+using dialog_act = std::function<void(projection_dialog&, dialog_hands&)>;
+
+struct project_options {
+    std::string text;
+    std::vector<dialog_act> acts;
+    bool quiet = false;
+    std::filesystem::path bundle;
+};
+
+dialog_act choosing(const std::string& given) {
+    const auto equals = given.find('=');
+    if (equals == given.npos || equals == 0)
+        throw CLI::ValidationError("--choose", given + " is not CAPTION=VALUE");
+    return [control = given.substr(0, equals), value = given.substr(equals + 1)](auto&, dialog_hands& in) {
+        in.set(control, value);
+    };
+}
+
+void choose_favourite(dialog_hands& in, std::uint32_t number) {
+    shell::table_model& favourites = *in.only(shell::node_kind::table).rows();
+    if (number == 0 || number > favourites.row_count())
+        throw failure(exit_code::nothing_done, "no favourite " + std::to_string(number) + " among the " +
+                                                   std::to_string(favourites.row_count()));
+    favourites.make_current(number - 1);
+}
+
+exit_code edit(const project_options& options) try {
+    // An empty text is what the dialog starts from when nothing is chosen.
+    const target from = options.text.empty() ? target{} : read_target(options.text);
+    projection_dialog dialog(options.bundle);
+    std::string composed;
+    dialog.open(from.proj4, [&](dialog_hands& in) {
+        for (const dialog_act& act : options.acts) act(dialog, in);
+        if (!options.quiet) std::cout << dialog_text(in.dialog()) << '\n';
+        composed = dialog.text(in);
+    });
+    std::cout << composed << '\n';
+    return exit_code::done;
+} catch (const headless::impossible& e) {
+    throw failure(exit_code::nothing_done, e.what());
+} catch (const shell::bundle_error& e) {
+    throw failure(exit_code::unreadable, e.what());
+}
+
+}  // namespace
+
+void add_project(CLI::App& app, action& chosen) {
+    auto options = std::make_shared<project_options>();
+    const auto act = [options](dialog_act what) { options->acts.push_back(std::move(what)); };
+    CLI::App* command =
+        app.add_subcommand("project", "Compose a projection in the plug-in's dialog; acts go in order");
+    command->add_option("text", options->text, std::string("Where to start: ") + target_help)
+        ->type_name("TEXT");
+    command
+        ->add_option_function<std::vector<std::string>>(
+            "--choose",
+            [act](const std::vector<std::string>& all) {
+                for (const std::string& each : all) act(choosing(each));
+            },
+            "Set a control, \"Group/Caption=Value\" where the caption fits several")
+        ->type_name("CAPTION=VALUE")
+        ->expected(1)
+        ->trigger_on_parse();
+    command
+        ->add_option_function<std::string>(
+            "--epsg",
+            [act](const std::string& code) {
+                act([code](projection_dialog& dialog, dialog_hands& in) { dialog.choose_crs(in, code); });
+            },
+            "Import a coordinate system by its code")
+        ->type_name("CODE")
+        ->trigger_on_parse();
+    command
+        ->add_option_function<std::uint32_t>(
+            "--favourite",
+            [act](std::uint32_t number) {
+                act([number](projection_dialog&, dialog_hands& in) { choose_favourite(in, number); });
+            },
+            "Take a favourite, counted from 1")
+        ->type_name("N")
+        ->trigger_on_parse();
+    command->add_flag_callback(
+        "--add-favourite",
+        [act] {
+            act([](projection_dialog&, dialog_hands& in) { in.click_tool(plug_in_text::append_tool); });
+        },
+        "Keep the projection as a favourite");
+    command
+        ->add_option_function<std::string>(
+            "--save",
+            [act](const std::string& file) {
+                act([file](projection_dialog& dialog, dialog_hands& in) {
+                    check_writable(file);
+                    dialog.save(in, file);
+                });
+            },
+            "Save to a .pj4 or .prj file")
+        ->type_name("FILE")
+        ->trigger_on_parse();
+    command
+        ->add_option_function<std::string>(
+            "--load",
+            [act](const std::string& file) {
+                read_target(file);
+                act([file](projection_dialog& dialog, dialog_hands& in) { dialog.load(in, file); });
+            },
+            "Load a .pj4 or .prj file")
+        ->type_name("FILE")
+        ->trigger_on_parse();
+    command->add_flag("--quiet", options->quiet, "Print the text only");
+    add_language(*command);
+    add_bundle(*command, options->bundle);
+    command->callback([options, &chosen] { chosen = [options] { return edit(*options); }; });
+}
+
+}  // namespace oxhost::app

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "app/run_record.h"
+
+namespace oxhost::app {
+
+/// The report as JSON. Lengths and distances are metres along the ellipsoid, accuracies metres, `null`
+/// where there is nothing to tell:
+///
+///     project, target {given, proj4}, dry_run, on_error, proj {library, database}, warnings [text],
+///     counts {outcome: scenes},
+///     scenes [{index, caption, source_proj4, target_proj4, outcome, rolled_back, vertices,
+///              length_before_m, length_after_m, largest_ground_shift_m, largest_datum_shift_m,
+///              operation {name, definition, accuracy_m, source_shift, target_shift},
+///              failure {reason, vertex, x, y}}]
+///
+/// `outcome` is reprojected, assigned, reset, unchanged, failed or "not attempted". The ground shift is how
+/// far a vertex moved on the ground, each text's datum counted: about 0 when all is well. The datum shift is
+/// the change of longitude and latitude as numbers: the error of whoever forgets the datum. `vertex` counts
+/// from 0, `x` and `y` are its coordinates in the source projection.
+std::string report_text(const run_record& of);
+
+}  // namespace oxhost::app

@@ -1,0 +1,67 @@
+#include "app/target.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "app/command.h"
+#include "geodesy/crs.h"
+#include "geodesy/crs_import.h"
+#include "geodesy/projection_files.h"
+
+namespace oxhost::app {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string lower_extension(const std::string& of) {
+    std::string extension = fs::path(of).extension().string();
+    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return extension;
+}
+
+target from_file(const std::string& given, const std::string& extension) {
+    std::error_code ignored;
+    if (!fs::exists(given, ignored)) throw failure(exit_code::unreadable, given + ": no such file");
+    if (!fs::is_regular_file(given, ignored) || access(given.c_str(), R_OK) != 0)
+        throw failure(exit_code::unreadable, given + ": cannot be read");
+    const auto text = extension == ".pj4" ? load_pj4(given) : load_prj(given);
+    if (!text || text->empty())
+        throw failure(exit_code::nothing_done, given + ": holds no projection that PROJ knows");
+    return {given, *text, fs::path(given)};
+}
+
+target from_text(const std::string& given) {
+    std::string text = given;
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
+    if (text.find_first_not_of(' ') == text.npos)
+        throw failure(exit_code::nothing_done, "the target is empty; \"none\" resets a projection");
+    if (auto known = import_crs(text)) return {given, std::move(*known), {}};
+    const std::string reason = text.find("proj=") != text.npos ? crs_of(text)->error : "";
+    throw failure(exit_code::nothing_done,
+                  '"' + given + "\": no projection that PROJ knows" + (reason.empty() ? "" : ": " + reason));
+}
+
+}  // namespace
+
+target read_target(const std::string& given) {
+    if (given == "none") return {given, {}, {}};
+    const std::string extension = lower_extension(given);
+    const bool file = extension == ".pj4" || extension == ".prj";
+    target read = file ? from_file(given, extension) : from_text(given);
+    if (const auto system = crs_of(read.proj4); !system->valid())
+        throw failure(exit_code::nothing_done, (file ? given + ": " : "") + '"' + read.proj4 +
+                                                   "\": PROJ refuses it: " + system->error);
+    return read;
+}
+
+fs::path file_of(const target& of, const temporary_folder& folder) {
+    if (of.file) return *of.file;
+    const fs::path file = folder / "target.pj4";
+    save_pj4(file.string(), of.proj4);
+    return file;
+}
+
+}  // namespace oxhost::app

@@ -1,0 +1,29 @@
+#pragma once
+/// TARGET of a command line: `EPSG:n`, a proj4 text, a .pj4 or .prj file, or `none`.
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "app/temporary_folder.h"
+
+namespace oxhost::app {
+
+struct target {
+    std::string given;                          ///< as the user spelled it
+    std::string proj4;                          ///< accepted by PROJ; empty for `none`
+    std::optional<std::filesystem::path> file;  ///< that the text comes from
+
+    bool none() const { return proj4.empty(); }
+};
+
+/// Throws `failure`: a file that cannot be read is `unreadable`, anything PROJ refuses `nothing_done`.
+target read_target(const std::string& given);
+
+/// What every TARGET option says in the help.
+inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
+
+/// A target as a file that a Load button takes: its own, else one made in `folder`. Not for `none`.
+std::filesystem::path file_of(const target& of, const temporary_folder& folder);
+
+}  // namespace oxhost::app

@@ -1,0 +1,211 @@
+#include "headless/dialog_hands.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "geodesy/proj4_text.h"
+
+namespace oxhost::headless {
+
+using shell::node;
+using shell::node_kind;
+
+namespace {
+
+std::string in_quotes(std::string_view text) { return '"' + std::string(text) + '"'; }
+
+std::string joined(const std::vector<std::string>& names) {
+    if (names.empty()) return "nothing";
+    std::string all;
+    for (const std::string& name : names) all += (all.empty() ? "" : ", ") + in_quotes(name);
+    return all;
+}
+
+bool is_control(const node& of) {
+    return of.kind() == node_kind::input || of.kind() == node_kind::number || of.kind() == node_kind::choice;
+}
+
+/// Every shown node that `wanted` accepts, in reading order.
+void collect(node& from, const std::function<bool(node&)>& wanted, std::vector<node*>& found) {
+    if (wanted(from)) found.push_back(&from);
+    for (const auto& child : from.children())
+        if (child->shown()) collect(*child, wanted, found);
+}
+
+std::vector<node*> all(shell::open_dialog& in, const std::function<bool(node&)>& wanted) {
+    std::vector<node*> found;
+    collect(in.root(), wanted, found);
+    return found;
+}
+
+bool stands_in_group(node& of, std::string_view caption) {
+    for (node* up = of.parent(); up; up = up->parent())
+        if (up->kind() == node_kind::group && up->state().caption == caption) return true;
+    return false;
+}
+
+bool is_called(node& of, std::string_view name) {
+    if (of.name() == name) return true;
+    const auto slash = name.find('/');
+    return slash != name.npos && of.name() == name.substr(slash + 1) &&
+           stands_in_group(of, name.substr(0, slash));
+}
+
+/// The one of `there` that has the name; `what` tells the kind in the error.
+node& the_one(shell::open_dialog& in, const std::vector<node*>& there, std::string_view name,
+              std::string_view what) {
+    std::vector<node*> fitting;
+    std::ranges::copy_if(there, std::back_inserter(fitting), [&](node* n) { return is_called(*n, name); });
+    if (fitting.size() == 1) return *fitting.front();
+    std::vector<std::string> names;
+    for (node* each : there) names.push_back(each->name());
+    const std::string place = "the dialog " + in_quotes(in.caption());
+    if (fitting.empty())
+        throw impossible(place + " has no " + std::string(what) + ' ' + in_quotes(name) + "; it has " +
+                         joined(names));
+    throw impossible(place + " has " + std::to_string(fitting.size()) + ' ' + std::string(what) + "s " +
+                     in_quotes(name) + "; name the group too, as in \"Group/Name\"");
+}
+
+/// The item itself, else the only one that begins so.
+std::vector<std::string>::const_iterator item_of(const std::vector<std::string>& items,
+                                                 std::string_view value) {
+    const auto begins_so = [&](const std::string& item) { return item.starts_with(value); };
+    if (const auto exact = std::ranges::find(items, value); exact != items.end()) return exact;
+    const bool unique = !value.empty() && std::ranges::count_if(items, begins_so) == 1;
+    return unique ? std::ranges::find_if(items, begins_so) : items.end();
+}
+
+node& the_only(shell::open_dialog& in, const std::vector<node*>& there, std::string_view what) {
+    if (there.size() == 1) return *there.front();
+    throw impossible("the dialog " + in_quotes(in.caption()) + " has " + std::to_string(there.size()) + ' ' +
+                     std::string(what) + "s, not one");
+}
+
+}  // namespace
+
+node& dialog_hands::find(node_kind kind, std::string_view name) {
+    return the_one(dialog_, all(dialog_, [&](node& n) { return n.kind() == kind; }), name,
+                   shell::name_of(kind));
+}
+
+node& dialog_hands::control(std::string_view name) {
+    return the_one(dialog_, all(dialog_, is_control), name, "control");
+}
+
+node& dialog_hands::only(node_kind kind) {
+    return the_only(dialog_, all(dialog_, [&](node& n) { return n.kind() == kind; }), shell::name_of(kind));
+}
+
+node& dialog_hands::tool(std::string_view id) {
+    const auto tools = all(dialog_, [](node& n) { return n.kind() == node_kind::tool; });
+    const auto found = std::ranges::find(tools, id, &node::id);
+    if (found != tools.end()) return **found;
+    std::vector<std::string> ids;
+    for (node* each : tools) ids.push_back(each->id());
+    throw impossible("the dialog " + in_quotes(dialog_.caption()) + " has no tool " + in_quotes(id) +
+                     "; it has " + joined(ids));
+}
+
+node& dialog_hands::menu_button() {
+    return the_only(dialog_, all(dialog_, [](node& n) { return n.has_menu(); }), "button with a menu");
+}
+
+void dialog_hands::click(std::string_view button) {
+    if (!find(node_kind::button, button).click())
+        throw impossible("the button " + in_quotes(button) + " is off");
+}
+
+void dialog_hands::click_tool(std::string_view id) {
+    if (!tool(id).click()) throw impossible("the tool " + in_quotes(id) + " is off");
+}
+
+void dialog_hands::type(std::string_view input, std::string_view text) {
+    change(find(node_kind::input, input), text);
+}
+
+void dialog_hands::choose(std::string_view choice, std::string_view item) {
+    change(find(node_kind::choice, choice), item);
+}
+
+void dialog_hands::set(std::string_view name, std::string_view value) { change(control(name), value); }
+
+void dialog_hands::enter(std::string_view number, double value) {
+    change(find(node_kind::number, number), number_text(value));
+}
+
+void dialog_hands::change(node& control, std::string_view value) {
+    const std::string called = in_quotes(control.name());
+    if (!control.state().enabled || control.state().read_only)
+        throw impossible(called + " cannot be changed here");
+    if (control.kind() == node_kind::choice) {
+        const auto& items = control.state().items;
+        const auto item = item_of(items, value);
+        if (item == items.end())
+            throw impossible(called + " has no item " + in_quotes(value) + "; it has " + joined(items));
+        control.choose(static_cast<std::uint32_t>(item - items.begin()));
+    } else if (control.kind() == node_kind::number) {
+        const auto number = parse_number(value);
+        if (!number) throw impossible(called + ": " + in_quotes(value) + " is no number");
+        const double low = control.state().minimum;
+        const double high = control.state().maximum;
+        if (*number < low || *number > high)
+            throw impossible(called + ": " + std::string(value) + " is not between " + number_text(low) +
+                             " and " + number_text(high));
+        if (!control.enter(*number)) throw impossible(called + " refuses " + std::string(value));
+    } else {
+        control.type(value);  // whether it was accepted shows in what the dialog offers next
+    }
+}
+
+namespace {
+
+std::vector<node*> entries_of(node& menu) {
+    std::vector<node*> entries;
+    collect(
+        menu, [](node& n) { return n.kind() == node_kind::tool; }, entries);
+    return entries;
+}
+
+std::unique_ptr<node> opened(node& button) {
+    auto menu = button.open_menu();
+    if (!menu) throw impossible("the button " + in_quotes(button.name()) + " opens no menu");
+    return menu;
+}
+
+}  // namespace
+
+std::vector<std::string> dialog_hands::menu_entries(node& button) {
+    const auto menu = opened(button);
+    std::vector<std::string> captions;
+    for (node* entry : entries_of(*menu)) captions.push_back(entry->state().caption);
+    return captions;
+}
+
+void dialog_hands::choose_entry(node& button, std::size_t entry) {
+    const auto menu = opened(button);
+    const auto entries = entries_of(*menu);
+    if (entry >= entries.size() || !entries[entry]->click())
+        throw impossible("the menu of " + in_quotes(button.name()) + " has no entry " +
+                         std::to_string(entry) + " to choose among its " + std::to_string(entries.size()));
+}
+
+bool dialog_hands::press(shell::button_role role) {
+    const auto buttons = dialog_.buttons();
+    const auto found = std::ranges::find(buttons, role, &shell::dialog_button::role);
+    if (found == buttons.end())
+        throw impossible("the dialog " + in_quotes(dialog_.caption()) + " has no such standard button");
+    if (!found->enabled) throw impossible("the button " + in_quotes(found->caption) + " is off");
+    return dialog_.press(static_cast<std::size_t>(found - buttons.begin()));
+}
+
+void check_rows(shell::table_model& table, std::span<const std::uint32_t> rows) {
+    for (const std::uint32_t row : rows) {
+        if (row >= table.row_count())
+            throw impossible("the table has no row " + std::to_string(row) + " among its " +
+                             std::to_string(table.row_count()));
+        table.check(row, true);
+    }
+}
+
+}  // namespace oxhost::headless

@@ -1,0 +1,39 @@
+#pragma once
+/// One bundle at work: loaded, its services created and held, its dialogs served. [ui]
+///
+///     bundle_host host(file, user);             // `user` acts in the dialogs
+///     host.run("oxk_scn2d_prf_reproj");         // returns when the utility's dialog is closed
+
+#include "shell/bundle.h"
+#include "shell/bundle_context.h"
+#include "shell/dialogs.h"
+#include "shell/service_registry.h"
+
+namespace oxhost::shell {
+
+class bundle_host {
+public:
+    /// `user` outlives the host. Throws bundle_error.
+    bundle_host(const std::filesystem::path& file, dialog_user& user);
+    bundle_host(const bundle_host&) = delete;
+    bundle_host& operator=(const bundle_host&) = delete;
+
+    const std::vector<offered_utility>& utilities() const { return registry_.utilities(); }
+    /// Keys of the bundle's factories, in its order.
+    const std::vector<std::string>& factory_keys() const { return factory_keys_; }
+    std::string caption(const offered_utility& utility) const;
+
+    /// Throws bundle_error when the bundle has no such utility, and what the user threw.
+    void run(std::string_view utility_id);
+
+private:
+    // In the order of construction; released backwards: the services before the file that their code is
+    // in, the context, which owns them, last.
+    dialog_desk desk_;
+    bundle_context context_;
+    bundle bundle_;
+    service_registry registry_;
+    std::vector<std::string> factory_keys_;
+};
+
+}  // namespace oxhost::shell

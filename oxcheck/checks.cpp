@@ -1,0 +1,14 @@
+#include "checks.h"
+
+namespace oxcheck {
+
+std::vector<check> all_checks() {
+    std::vector<check> all;
+    for (const auto group :
+         {load_checks(), entry_checks(), factory_checks(), pointer_checks(), referent_checks(),
+          element_checks(), text_checks(), run_checks(), fault_checks()})
+        all.insert(all.end(), group.begin(), group.end());
+    return all;
+}
+
+}  // namespace oxcheck

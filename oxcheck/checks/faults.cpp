@@ -1,0 +1,144 @@
+// Every call of the host that can refuse does so once, one after the other.
+
+#include <algorithm>
+#include <set>
+
+#include "checks.h"
+#include "host/brackets.h"
+#include "host/script.h"
+#include "tree/play.h"
+
+namespace oxcheck {
+
+namespace {
+
+using host_double::host;
+using host_double::narrow;
+using texts = std::vector<std::wstring>;
+
+/// What one run with a refusing host came to.
+struct faulty_run {
+    std::size_t number;
+    const play& acted;
+    std::string name() const {
+        return "call " + std::to_string(number) + " (" + host().refused + ") refused";
+    }
+};
+
+/// Runs the utility once with every call granted, then once for each of the calls with that one refused, and
+/// calls `look` after each of these runs.
+template <class Look>
+void with_each_fault(const subject& given, Look look) {
+    script::set_stage();
+    session started(given.bundle);
+    play(started).run();
+    const std::size_t calls = host().asked;
+    if (calls == 0) throw no_occasion("the utility makes no call that the host can refuse");
+    for (std::size_t k = 1; k <= calls; ++k) {
+        script::set_stage();
+        host().refuse = k;
+        note("call " + std::to_string(k) + " of " + std::to_string(calls) + " is refused");
+        play acted(started);
+        acted.run();
+        look(faulty_run{k, acted});
+        host_double::reset();
+        if (late_calls().empty()) forget_lent_objects();
+    }
+}
+
+void are_survived(const subject& given) {
+    with_each_fault(given, [](const faulty_run&) {});
+}
+
+void leave_nothing_behind(const subject& given) {
+    with_each_fault(given, [](const faulty_run& run) {
+        for (const auto& [kind, number] : host().live)
+            if (kind != "bracket") require_equal(number, 0, run.name() + ", " + kind + " left:");
+    });
+}
+
+void leave_no_bracket_open(const subject& given) {
+    with_each_fault(given, [](const faulty_run& run) {
+        const std::string fault = bracket_fault(host().log);
+        require(fault.empty(), run.name() + ", brackets as ever", fault);
+    });
+}
+
+/// A scene is as it was, or carries another projection. A line never moves without its projection.
+void leave_scenes_whole(const subject& given) {
+    with_each_fault(given, [](const faulty_run& run) {
+        const auto after = std::move(host().scenes);
+        script::set_stage();
+        for (std::size_t i = 0; i < after.size(); ++i)
+            require(after[i]->pv == host().scenes[i]->pv || after[i]->pj4 != host().scenes[i]->pj4,
+                    run.name() + ", " + narrow(after[i]->caption) + " keeps its line with its projection",
+                    "a moved line in the old projection");
+    });
+}
+
+// The utility of this contract whose very words are known; of others only the kind of message counts.
+constexpr const wchar_t* worded_utility = L"oxk_scn2d_prf_reproj";
+constexpr const wchar_t* bad_settings = L"Incorrect reprojection settings";
+constexpr const wchar_t* reprojection_error = L"Reprojection error";
+constexpr const wchar_t* reprojection_complete = L"Reprojection complete";
+
+struct said {
+    texts messages, errors;
+    bool operator==(const said&) const = default;
+};
+
+std::string describe(const said& heard) {
+    std::string text;
+    for (const std::wstring& each : heard.messages) text += "message \"" + narrow(each) + "\" ";
+    for (const std::wstring& each : heard.errors) text += "error \"" + narrow(each) + "\" ";
+    return text.empty() ? "nothing" : text;
+}
+
+/// What the run must say. Only the run over the scenes reports its failures; a dialog that cannot do its work
+/// stays silent, and progress is a luxury.
+said expected_words(const play& acted) {
+    static const std::set<std::string> stopping{"profile data", "scene", "rpj", "pv", "init", "apply"};
+    if (stopping.contains(host().refused)) {
+        if (acted.refused_in() == phase::before) return {{}, {bad_settings}};
+        if (acted.refused_in() == phase::within) return {{}, {reprojection_error}};
+    }
+    return {{reprojection_complete}, {}};
+}
+
+void are_reported(const subject& given) {
+    bool worded = false;
+    {
+        script::set_stage();
+        session started(given.bundle);
+        play first(started);
+        first.run();
+        const bool progress = std::ranges::any_of(
+            host().log, [](const std::string& line) { return line.starts_with("progress"); });
+        if (!progress || host().messages.empty())
+            throw no_occasion("the utility shows no progress or does not report success");
+        for (const service& each : started.services()) worded = worded || each.id == worded_utility;
+    }
+    with_each_fault(given, [worded](const faulty_run& run) {
+        said expected = expected_words(run.acted);
+        said heard{host().messages, host().errors};
+        if (!worded) {  // count only
+            for (said* each : {&expected, &heard})
+                for (texts* list : {&each->messages, &each->errors}) std::ranges::fill(*list, L"any");
+        }
+        require(heard == expected, run.name() + ", " + describe(expected), describe(heard));
+    });
+}
+
+constexpr check checks[] = {
+    {"faults.survived", "each refusal of the host is survived", are_survived},
+    {"faults.objects", "nothing that was made in the host stays after a refusal", leave_nothing_behind},
+    {"faults.brackets", "update brackets are closed after a refusal", leave_no_bracket_open},
+    {"faults.scenes", "a refusal leaves no scene half changed", leave_scenes_whole},
+    {"faults.messages", "refusals are reported as the contract says", are_reported},
+};
+
+}  // namespace
+
+std::span<const check> fault_checks() { return checks; }
+
+}  // namespace oxcheck

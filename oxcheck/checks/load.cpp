@@ -1,0 +1,111 @@
+// Loading and unloading: exports, time, silence, and what is left behind.
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+
+#include "checks.h"
+#include "files/exports.h"
+#include "host/script.h"
+#include "host/session.h"
+
+namespace oxcheck {
+
+namespace {
+
+namespace fs = std::filesystem;
+using host_double::host;
+
+void opens(const subject& given) {
+    try {
+        const platform::library library(given.bundle);
+        require(library.find(entry_name) != nullptr, std::string("the export ") + entry_name, "none");
+    } catch (const failure&) {
+        throw;
+    } catch (const std::exception& reason) {
+        throw failure("a library that can be loaded", reason.what());
+    }
+}
+
+void exports_two_names(const subject& given) {
+    std::vector<std::string> names = exports_of(given.bundle);
+    std::ranges::sort(names);
+    std::string listed;
+    for (const std::string& name : names) listed += (listed.empty() ? "" : ", ") + name;
+    const std::string expected = std::string(entry_name) + ", " + unload_guard_name;
+    require(listed == expected, expected, listed.empty() ? "no exports" : listed);
+}
+
+void unloads_without_trace(const subject& given) {
+    constexpr int warm_up = 3;  // the loader and the C library keep what they will need again
+    constexpr int times = 20;
+    platform::holdings before;
+    const auto once = [&given] {
+        script::set_stage();
+        { const session started(given.bundle); }
+        forget_lent_objects();
+        host_double::reset();
+    };
+    once();
+    require(!platform::is_loaded(given.bundle), "the library leaves the process when it is unloaded",
+            "it stays mapped");
+    for (int i = 1; i < warm_up; ++i) once();
+    before = platform::count_holdings();
+    for (int i = 0; i < times; ++i) once();
+    const platform::holdings after = platform::count_holdings();
+    const auto grown = [](std::size_t from, std::size_t to) { return to > from ? to - from : 0; };
+    require_equal(grown(before.handles, after.handles), std::size_t{0}, "more handles after 20 times:");
+    const std::size_t heap = grown(before.heap, after.heap);
+    require(heap < times * std::size_t{16}, "no growth of the heap in 20 times",
+            std::to_string(heap) + " bytes");
+    const std::size_t mapped = grown(before.mapped, after.mapped);
+    require(mapped < times * std::size_t{65536}, "no growth of the address space in 20 times",
+            std::to_string(mapped) + " bytes");
+}
+
+void loads_quickly(const subject& given) {
+    using clock = std::chrono::steady_clock;
+    constexpr std::chrono::milliseconds limit(100);
+    // The fastest of a few: the first one waits for the disk.
+    auto fastest = clock::duration::max();
+    for (int i = 0; i < 5; ++i) {
+        const auto start = clock::now();
+        const bundle loaded(given.bundle);
+        loaded.enter(nullptr);
+        fastest = std::min(fastest, clock::now() - start);
+    }
+    const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(fastest);
+    require(taken < limit, "loaded in under 100 ms", std::to_string(taken.count()) + " ms");
+}
+
+void loads_silently(const subject& given) {
+    host_double::reset();
+    const std::size_t windows = platform::count_holdings().windows;
+    const bundle loaded(given.bundle);
+    loaded.enter(nullptr);
+    std::fflush(nullptr);
+    require_equal(platform::count_holdings().windows, windows, "windows of the thread:");
+    require(fs::is_empty(fs::current_path()), "no file in the working folder",
+            fs::is_empty(fs::current_path())
+                ? ""
+                : fs::directory_iterator(fs::current_path())->path().filename().string());
+    require_equal(fs::file_size(given.output), std::uintmax_t{0}, "bytes printed:");
+    require_equal(host().messages.size() + host().errors.size() + host().questions.size(), std::size_t{0},
+                  "messages to the user:");
+    require(host().log.empty() && host().live.empty(), "no call of the host",
+            host().log.empty() ? "objects made" : host().log.front());
+}
+
+constexpr check checks[] = {
+    {"load.opens", "the library is loaded and has the bundle entry", opens},
+    {"load.exports", "exactly the two names of the contract are exported", exports_two_names},
+    {"load.unload", "twenty times loaded, started and unloaded, nothing grows", unloads_without_trace},
+    {"load.time", "loading takes less than 100 ms", loads_quickly},
+    {"load.silent", "loading shows no window, writes no file, says nothing", loads_silently},
+};
+
+}  // namespace
+
+std::span<const check> load_checks() { return checks; }
+
+}  // namespace oxcheck

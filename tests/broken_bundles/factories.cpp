@@ -1,0 +1,95 @@
+// The factories, in the order of the contract: a dialog without id, the utility, its dialog, the client.
+
+#include <chrono>
+#include <cstdio>
+#include <optional>
+#include <thread>
+
+#include "fault.h"
+#include "framework/local_factory.h"
+#include "framework/service_factory.h"
+#include "toolkit/utility.h"
+#include "widget.h"
+
+namespace broken {
+
+namespace {
+
+constexpr wchar_t utility_id[] = L"oxk_broken_bundle";
+
+class utility final : public ox::util::referent<ox::utility_service_impl>,
+                      public ox::toolkit::utility<widget, utility_id, 0> {
+public:
+    explicit utility(custom_pointer owner)
+        : obj(owner),
+          ox::toolkit::utility<widget, utility_id, 0>({.caption = ox::text::batch_project_sections,
+                                                       .dialog_caption = ox::text::batch_project_sections}) {
+        static ox::ref<ox::referent, 1> forgotten;
+        if (is(fault::leaks_referrer))
+            ox::call<&ox::referent_impl::add_referrer>(owner, ox::make_pointer<ox::referrer_impl>(forgotten));
+    }
+
+    void report(custom_pointer utility_visitor) override {
+        ox::call<&ox::utility_visitor_impl::visit>(utility_visitor, utility_id,
+                                                   ox::make_pointer<ox::utility_impl>(*this));
+    }
+    std::size_t add_referrer(custom_pointer referrer) override {
+        return is(fault::forgets_pins) && !referrer ? 0 : obj::add_referrer(referrer);
+    }
+    void run() override {
+        if (is(fault::acts_unseen) && !ox::util::dialog_host<utility_id>()) widget().apply();
+        ox::toolkit::utility<widget, utility_id, 0>::run();
+    }
+};
+
+auto holders() {
+    using holder =
+        ox::util::detail::ref_service_holder<utility, ox::utility_service, ox::utility_service_impl,
+                                             ox::utility_service_visitor>;
+    std::vector<ox::util::service_factory<utility>::holder> made;
+    made.push_back(std::make_unique<holder>());
+    return made;
+}
+
+struct loading {
+    loading() {
+        if (is(fault::slow_load)) std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        if (is(fault::noisy_load)) std::fputs("broken bundle: hello\n", stderr);
+        if (is(fault::leaks_memory)) {
+            char* volatile lost = new char[1000];
+            static_cast<void>(lost);
+        }
+    }
+} loaded;
+
+using ox::util::detail::modal_dialog_service_factory;
+using utility_factory = ox::util::service_factory<utility>;
+
+utility_factory make_utilities() { return {ox::category_key(L"/utility").c_str(), holders()}; }
+
+struct in_order {
+    modal_dialog_service_factory<nullptr> plain_dialogs;
+    utility_factory utilities = make_utilities();
+    modal_dialog_service_factory<utility_id> utility_dialogs;
+};
+struct out_of_order {
+    utility_factory utilities = make_utilities();
+    modal_dialog_service_factory<nullptr> plain_dialogs;
+    modal_dialog_service_factory<utility_id> utility_dialogs;
+};
+
+struct registration {
+    registration() {
+        if (is(fault::wrong_order))
+            wrong.emplace();
+        else
+            right.emplace();
+    }
+    std::optional<in_order> right;
+    std::optional<out_of_order> wrong;
+} factories;
+ox::detail::local_factory_impl local_client;
+
+}  // namespace
+
+}  // namespace broken

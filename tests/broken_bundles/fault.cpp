@@ -1,0 +1,3 @@
+#include "fault.h"
+
+const broken::fault broken::deviation = broken::fault::BUNDLE_FAULT;

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include "oxhost_run.h"
+
+namespace {
+
+using namespace oxhost_test;
+
+std::string last_line(const std::string& text) {
+    const auto end = text.find_last_not_of('\n');
+    const auto start = text.find_last_of('\n', end);
+    return text.substr(start + 1, end - start);
+}
+
+/// The zone that EPSG defines, chosen in the dialog and imported by its code, gives the same text, which
+/// comes back unchanged from a fresh dialog.
+TEST(ProjectionDialog, ComposesWhatItImports) {
+    const sandbox box;
+    const auto imported = box.oxhost({"project", "--epsg", "28407", "--quiet"});
+    ASSERT_EQ(imported.code, 0) << imported.error;
+    EXPECT_NE(imported.out.find("+x_0=7500000"), std::string::npos) << imported.out;
+    EXPECT_NE(imported.out.find("+towgs84="), std::string::npos) << imported.out;
+    const auto again = box.oxhost({"project", last_line(imported.out), "--quiet"});
+    EXPECT_EQ(again.out, imported.out);
+
+    const auto chosen = box.oxhost({"project", "--choose", "Type=Zonal", "--choose",
+                                    "Projection/Projection=UTM North", "--choose", "Zone=40N"});
+    ASSERT_EQ(chosen.code, 0) << chosen.error;
+    EXPECT_NE(last_line(chosen.out).find("+proj=utm +zone=40"), std::string::npos) << chosen.out;
+    EXPECT_NE(chosen.out.find("Zone: 40N"), std::string::npos) << chosen.out;
+}
+
+TEST(ProjectionDialog, FollowsTheOrderOfTheCommandLine) {
+    const sandbox box;
+    EXPECT_NE(box.oxhost({"project", "--choose", "Type=Geographic", "--epsg", "32637", "--quiet"})
+                  .out.find("+proj=utm +zone=37"),
+              std::string::npos);
+    EXPECT_NE(box.oxhost({"project", "--epsg", "32637", "--choose", "Type=Geographic", "--quiet"})
+                  .out.find("+proj=longlat"),
+              std::string::npos);
+}
+
+TEST(ProjectionDialog, KeepsFavouritesAndFiles) {
+    const sandbox box;
+    const auto added = box.oxhost({"project", "--epsg", "32640", "--add-favourite", "--save", "kept.prj"});
+    ASSERT_EQ(added.code, 0) << added.error;
+    const std::string text = last_line(added.out);
+    EXPECT_EQ(last_line(box.oxhost({"project", "--favourite", "1", "--quiet"}).out), text);
+    EXPECT_EQ(last_line(box.oxhost({"project", "--load", "kept.prj", "--quiet"}).out), text);
+    EXPECT_EQ(box.oxhost({"project", "--favourite", "2"}).code, 2);
+}
+
+TEST(ProjectionDialog, NamesWhatItDoesNotHave) {
+    const sandbox box;
+    const auto control = box.oxhost({"project", "--choose", "Colour=red"});
+    EXPECT_EQ(control.code, 2);
+    EXPECT_NE(control.error.find("no control \"Colour\"; it has \"Type\""), std::string::npos)
+        << control.error;
+    const auto item = box.oxhost({"project", "--choose", "Type=Round"});
+    EXPECT_EQ(item.code, 2);
+    EXPECT_NE(item.error.find("no item \"Round\"; it has \"Not Defined\""), std::string::npos) << item.error;
+    EXPECT_EQ(box.oxhost({"project", "--epsg", "999999"}).code, 2);
+}
+
+TEST(Catalogue, ListsWhatTheDialogsOffer) {
+    const sandbox box;
+    EXPECT_EQ(box.oxhost({"catalogue", "ellipsoids", "--find", "KRASS"}).out,
+              "Krassowsky 1940  6378245, 298.3\n");
+    EXPECT_NE(box.oxhost({"catalogue", "zones", "--find", "40n"}).out.find("UTM North  40N"),
+              std::string::npos);
+}
+
+TEST(Describe, TellsCodeEllipsoidDatumAndWarnings) {
+    const sandbox box;
+    const auto code = box.oxhost({"describe", "EPSG:28407"});
+    EXPECT_EQ(code.code, 0);
+    for (const char* part : {"EPSG: EPSG:28407", "Krass", "+towgs84="})
+        EXPECT_NE(code.out.find(part), std::string::npos) << code.out;
+    const auto warned = box.oxhost({"describe", "+proj=tmerc +lon_0=39 +ellps=krass +colour=red"});
+    EXPECT_NE(warned.out.find("\"+colour\""), std::string::npos) << warned.out;
+    EXPECT_NE(warned.out.find("no datum shift"), std::string::npos) << warned.out;
+}
+
+}  // namespace

@@ -1,0 +1,57 @@
+// Code pages as the system converts them.
+
+#include "support/encodings.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "case_name.h"
+#include "windows/code_page.h"
+
+namespace {
+
+TEST(SystemCodePage, IsTheOneThatTheTestWasStartedIn) {
+    ASSERT_EQ(GetACP(), expected_code_page());
+    const bool cyrillic = GetACP() == 1251;
+    EXPECT_EQ(ox::system_to_wide("\xC6"), cyrillic ? L"\u0416" : L"\u00C6");
+    EXPECT_EQ(ox::wide_to_system(L"\u0416"), cyrillic ? "\xC6" : "?");
+}
+
+struct utf8_case {
+    const char* name;
+    std::string narrow;
+    std::wstring wide;
+    enum { both, to_narrow, to_wide } direction = both;
+};
+
+class Utf8 : public testing::TestWithParam<utf8_case> {};
+
+TEST_P(Utf8, MeetsUtf16) {
+    const utf8_case& c = GetParam();
+    if (c.direction != utf8_case::to_wide) {
+        EXPECT_EQ(ox::wide_to_utf8(c.wide), c.narrow);
+    }
+    if (c.direction != utf8_case::to_narrow) {
+        EXPECT_EQ(ox::utf8_to_wide(c.narrow), c.wide);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Utf8,
+    testing::Values(utf8_case{"Cyrillic", "\xD0\x96", L"\x0416"},
+                    utf8_case{"SurrogatePair", "a\xF0\x9F\x8C\x8D", L"a\xD83C\xDF0D"},
+                    utf8_case{"LonelySurrogate", "a\xEF\xBF\xBD!", L"a\xD83C!", utf8_case::to_narrow},
+                    utf8_case{"SurrogatesSwapped", "\xEF\xBF\xBD\xEF\xBF\xBD", L"\xDF0D\xD83C",
+                              utf8_case::to_narrow},
+                    utf8_case{"StrayByte", "a\x80!", L"a\xFFFD!", utf8_case::to_wide},
+                    utf8_case{"InnerZero", std::string("a\0!", 3), std::wstring(L"a\0!", 3)}),
+    case_name);
+
+TEST(Encodings, ASurrogatePairIsOneLetterThatACodePageLacks) {
+    const std::wstring text = L"\xD83C\xDF0D!";
+    const std::string narrow = ox::to_narrow(text.data(), text.size(), 8);
+    EXPECT_EQ(narrow.back(), '!');
+    EXPECT_EQ(narrow.find_first_not_of('?'), narrow.size() - 1);
+}
+
+}  // namespace
