@@ -126,6 +126,7 @@ outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::mil
 
 int run_as_child(const std::string& name, const fs::path& bundle, const fs::path& folder) {
     platform::crash_quietly();
+    platform::load_host_modules();
     note_file() = folder / notes;
     for (const check& each : all_checks())
         if (each.name == name) {

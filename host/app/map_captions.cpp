@@ -7,7 +7,7 @@ namespace oxhost::app {
 
 namespace {
 
-constexpr double letter_width = 6.6;  // of the picture's 11 px face, on average
+constexpr double letter_width = 6.35;  // of the picture's 11 px face, on average
 constexpr double line_height = 14;
 constexpr double distance = 7;  // from the line
 constexpr std::size_t most = 200;
@@ -42,19 +42,22 @@ void map_captions::add(const std::string& text, const polyline& path) {
     const point middle = path[path.size() / 2];
     const auto [west, east] = std::ranges::minmax(path, {}, [](const point& p) { return p.x; });
     const double half = line_height / 2;
-    const rectangle tries[] = {
-        {east.x + distance, east.y - half, width, line_height},
-        {west.x - distance - width, west.y - half, width, line_height},
-        {middle.x + distance, middle.y + distance, width, line_height},
-        {middle.x - distance - width, middle.y - distance - line_height, width, line_height},
-        {middle.x - width / 2, middle.y - distance - line_height, width, line_height},
-        {middle.x - width / 2, middle.y + distance, width, line_height},
-        {middle.x + distance, middle.y - distance - line_height, width, line_height},
-        {middle.x - distance - width, middle.y + distance, width, line_height},
-        {within_.x + distance, within_.y + distance, width, line_height},
-        {within_.x + within_.width - distance - width, within_.y + distance, width, line_height}};
-    const auto found = std::ranges::find_if(tries, [&](const rectangle& box) { return is_free(box); });
-    if (found == std::end(tries)) return;
+    const auto box = [&](double x, double y) { return rectangle{x, y, width, line_height}; };
+    const double right_of_middle = middle.x + distance, left_of_middle = middle.x - distance - width;
+    const double below = middle.y + distance, above = middle.y - distance - line_height;
+    std::vector<rectangle> tries{
+        box(east.x + distance, east.y - half), box(west.x - distance - width, west.y - half),
+        box(right_of_middle, below),           box(left_of_middle, above),
+        box(middle.x - width / 2, above),      box(middle.x - width / 2, below),
+        box(right_of_middle, above),           box(left_of_middle, below)};
+    for (const double lines : {-1.0, 1.0, -2.0, 2.0}) {
+        tries.push_back(box(east.x + distance, east.y - half + lines * line_height));
+        tries.push_back(box(west.x - distance - width, west.y - half + lines * line_height));
+    }
+    tries.push_back(box(within_.x + distance, within_.y + distance));
+    tries.push_back(box(within_.x + within_.width - distance - width, within_.y + distance));
+    const auto found = std::ranges::find_if(tries, [&](const rectangle& each) { return is_free(each); });
+    if (found == tries.end()) return;
     taken_.push_back(*found);
     placed_.push_back({text, found->x, found->y + line_height - 3});
 }

@@ -30,6 +30,10 @@ ending run_self(const std::vector<fs::path>& arguments, const fs::path& folder, 
 /// Of a process that crashes: no dialog, no core file.
 void crash_quietly();
 
+/// Loads the host's modules that lie beside this program; they stay, as they do in a host. Where they are
+/// linked in, nothing.
+void load_host_modules();
+
 /// A loaded library; unloaded when it ends.
 class library {
 public:

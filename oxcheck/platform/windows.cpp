@@ -4,7 +4,9 @@
 #include "platform/platform.h"
 
 #define WIN32_LEAN_AND_MEAN
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 #include <psapi.h>
@@ -120,6 +122,12 @@ void crash_quietly() {
         TerminateProcess(GetCurrentProcess(), problem->ExceptionRecord->ExceptionCode);
         return EXCEPTION_EXECUTE_HANDLER;
     });
+}
+
+void load_host_modules() {
+    for (const wchar_t* module :
+         {L"oxk_basic", L"oxk_entity", L"oxk_msgs", L"oxk_prg", L"oxk_prj", L"oxk_proj4_d2", L"oxk_scn_2d"})
+        LoadLibraryW((std::wstring(module) + L".dll").c_str());
 }
 
 library::library(const fs::path& file) : handle_(LoadLibraryW(file.c_str())) {

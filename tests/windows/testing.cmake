@@ -1,6 +1,5 @@
 # Tests of the Windows build. Programs are linked with the module's own resources and run where the host's
 # modules lie; each runs whole, once in a Western and once in a Cyrillic ANSI code page.
-set(CMAKE_CXX_FLAGS_RELEASE -O0)  # what is tested is built as released; the tests need not be
 add_subdirectory(googletest)
 
 set(code_page_1252 C.UTF-8)
