@@ -60,4 +60,8 @@ struct holdings {
 };
 holdings count_holdings();
 
+/// Bytes of the heap that a good library may leave behind each time, because the runtime keeps accounts: of
+/// threads, where it is linked into the library itself.
+std::size_t kept_by_runtime();
+
 }  // namespace oxcheck::platform

@@ -154,4 +154,6 @@ holdings count_holdings() {
     return now;
 }
 
+std::size_t kept_by_runtime() { return 1024; }
+
 }  // namespace oxcheck::platform

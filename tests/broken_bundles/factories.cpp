@@ -56,7 +56,7 @@ struct loading {
         if (is(fault::slow_load)) std::this_thread::sleep_for(std::chrono::milliseconds(150));
         if (is(fault::noisy_load)) std::fputs("broken bundle: hello\n", stderr);
         if (is(fault::leaks_memory)) {
-            char* volatile lost = new char[1000];
+            char* volatile lost = new char[2000];
             static_cast<void>(lost);
         }
     }

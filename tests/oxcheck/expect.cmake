@@ -1,9 +1,15 @@
 # Runs oxcheck on a bundle and compares the checks that fail with those expected:
-# cmake -DOXCHECK=... -DBUNDLE=... -DREPORT=... [-DEXPECTED=...] [-DSECONDS=n] -P expect.cmake
-if(NOT SECONDS)
-  set(SECONDS 20)
+# cmake [-DEMULATOR=...] -DOXCHECK=... -DBUNDLE=... -DREPORT=... [-DEXPECTED=...] [-DSECONDS=n]
+#   [-DONLY=group] -P expect.cmake
+set(options --json ${REPORT})
+if(SECONDS)
+  list(APPEND options --seconds ${SECONDS})
 endif()
-execute_process(COMMAND ${OXCHECK} ${BUNDLE} --json ${REPORT} --seconds ${SECONDS} RESULT_VARIABLE code)
+if(ONLY)
+  list(APPEND options --only ${ONLY})
+endif()
+file(REMOVE ${REPORT})
+execute_process(COMMAND ${EMULATOR} ${OXCHECK} ${BUNDLE} ${options} RESULT_VARIABLE code)
 file(READ ${REPORT} report)
 set(failed)
 string(JSON count LENGTH ${report} checks)
