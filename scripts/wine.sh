@@ -16,5 +16,14 @@ case ${1:?program} in
     "$wine" wineboot -i </dev/null >/dev/null 2>&1
     ;;
 --end) wineserver -k ;;
-*) exec "$wine" "$@" ;;
+*)
+    # Through a file: the first program that draws starts Wine's desktop, which would keep the caller's
+    # pipe open after the program has ended.
+    output=$(mktemp)
+    code=0
+    "$wine" "$@" </dev/null >"$output" 2>&1 || code=$?
+    cat "$output"
+    rm -f "$output"
+    exit "$code"
+    ;;
 esac
