@@ -100,10 +100,14 @@ const std::string& last_note() { return current_note(); }
 outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::milliseconds limit) {
     const temporary_folder folder;
     fs::create_directory(folder.path() / work);
-    const platform::ending end = platform::run_self({child_option, what.name, bundle, folder.path()},
-                                                    folder.path() / work, folder.path() / output, limit);
-    outcome found;
     using ended = platform::ending::kind;
+    platform::ending end;
+    // What did not start has done nothing, so it may be tried again: on a busy machine Wine now and then
+    // loses a process before its first instruction.
+    for (int tries = 3; tries > 0 && end.how == ended::not_started; --tries)
+        end = platform::run_self({child_option, what.name, bundle, folder.path()}, folder.path() / work,
+                                 folder.path() / output, limit);
+    outcome found;
     if (end.how == ended::exited && end.code == 0 && read_answer(folder.path() / answer, found)) return found;
     found = {verdict::failed, what.claim, {}};
     switch (end.how) {
