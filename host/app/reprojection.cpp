@@ -46,15 +46,19 @@ std::vector<scene_state> states_of(project& in, const std::vector<scene*>& scene
 /// Puts back what the run changed.
 void roll_back(project& in, const std::vector<scene_state>& states, std::vector<scene_result>& results) {
     std::vector<scene_state> changed;
+    std::vector<scene_result*> undone;
     for (std::size_t i = 0; i < results.size(); ++i) {
         const outcome came_to = results[i].came_to;
         if (came_to != outcome::reprojected && came_to != outcome::assigned && came_to != outcome::reset)
             continue;
         changed.push_back(states[i]);
-        results[i].rolled_back = true;
-        results[i].came_to = outcome::unchanged;
+        undone.push_back(&results[i]);
     }
     if (!changed.empty()) in.restore(changed);
+    for (scene_result* each : undone) {
+        each->rolled_back = true;
+        each->came_to = outcome::unchanged;
+    }
 }
 
 /// Scenes for another try: all that the last one did not reach.
@@ -135,15 +139,19 @@ exit_code reproject(const reprojection& command) try {
 
     run_plug_in(command, utility, to, *opened, results, wanted);
     exit_code code = code_of(results);
-    if (code == exit_code::scene_failed && command.policy == on_error::rollback)
-        roll_back(*opened, states, results);
-
-    if (wants_lines) {
-        const run_record record{command, to, results, warnings, before, lines_of(*opened, wanted)};
-        if (!command.report.empty()) write_output(command.report, report_text(record));
-        if (!command.map.empty()) write_output(command.map, section_map(record));
+    try {
+        if (code == exit_code::scene_failed && command.policy == on_error::rollback)
+            roll_back(*opened, states, results);
+        if (wants_lines) {
+            const run_record record{command, to, results, warnings, before, lines_of(*opened, wanted)};
+            if (!command.report.empty()) write_output(command.report, report_text(record));
+            if (!command.map.empty()) write_output(command.map, section_map(record));
+        }
+        opened->close();
+    } catch (const std::exception& e) {  // what became of the scenes is told all the same
+        std::cerr << "oxhost: " << e.what() << '\n';
+        if (code == exit_code::done) code = exit_code::nothing_done;
     }
-    opened->close();
     tell(command, results);
     return code;
 } catch (const project_error& e) {

@@ -27,9 +27,10 @@ sandbox::sandbox() {
 
 sandbox::~sandbox() { fs::remove_all(folder_); }
 
-outcome_of_run sandbox::oxhost(const std::vector<std::string>& arguments, const std::string& language) const {
-    std::string command = "cd " + quoted(folder_.string()) +
-                          " && LC_ALL= LANG=" + (language == "ru" ? "ru_RU.UTF-8" : "C.UTF-8") +
+outcome_of_run sandbox::oxhost(const std::vector<std::string>& arguments, const std::string& language,
+                               const std::string& shell) const {
+    std::string command = "cd " + quoted(folder_.string()) + " && " + shell +
+                          " LC_ALL= LANG=" + (language == "ru" ? "ru_RU.UTF-8" : "C.UTF-8") +
                           " OXHOST_CONFIG=config " OXHOST_PROGRAM;
     for (const std::string& each : arguments) command += ' ' + quoted(each);
     command += " <&- >.out 2>.error";

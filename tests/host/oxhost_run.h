@@ -35,8 +35,9 @@ public:
     sandbox(const sandbox&) = delete;
     sandbox& operator=(const sandbox&) = delete;
 
-    outcome_of_run oxhost(const std::vector<std::string>& arguments,
-                          const std::string& language = "en") const;
+    /// `shell`: commands that go before, ended by a semicolon.
+    outcome_of_run oxhost(const std::vector<std::string>& arguments, const std::string& language = "en",
+                          const std::string& shell = {}) const;
     /// Makes `p.gpkg` of the lines.
     void make_project(const std::vector<source_line>& lines) const;
 
