@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 
 namespace oxcheck::script {
 

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "double/host_double.h"
 #include "framework/call.h"
 #include "framework/interfaces/values.h"
 #include "framework/local_factory.h"
 #include "host/script.h"
+#include "host_double/host_double.h"
 
 namespace oxcheck {
 

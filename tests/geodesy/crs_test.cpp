@@ -13,7 +13,6 @@ struct pair_case {
     const char* name;
     std::string a, b;
     bool same;
-    friend void PrintTo(const pair_case& shown, std::ostream* out) { *out << shown.name; }
 };
 
 class Equality : public testing::TestWithParam<pair_case> {};

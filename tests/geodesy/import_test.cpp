@@ -12,7 +12,6 @@ struct import_case {
     std::string code;
     point at;  // easting, northing or longitude, latitude
     bool north_first;
-    friend void PrintTo(const import_case& shown, std::ostream* out) { *out << shown.name; }
 };
 
 class Import : public testing::TestWithParam<import_case> {};

@@ -82,7 +82,6 @@ struct shift_case {
     double a, rf;
     std::array<double, 7> shift;
     point at;
-    friend void PrintTo(const shift_case& shown, std::ostream* out) { *out << shown.name; }
 };
 
 class Shift : public testing::TestWithParam<shift_case> {};

@@ -48,8 +48,6 @@ struct known_points {
     double tolerance;  ///< in the target's units
 };
 
-void PrintTo(const known_points& of, std::ostream* out) { *out << of.name; }
-
 class Reprojection : public testing::TestWithParam<known_points> {};
 
 TEST_P(Reprojection, StoresTheExpectedLineAndText) {
@@ -118,8 +116,6 @@ struct policy_case {
     bool changes_last;
 };
 
-void PrintTo(const policy_case& of, std::ostream* out) { *out << of.name; }
-
 class OnError : public testing::TestWithParam<policy_case> {};
 
 TEST_P(OnError, DecidesWhatIsLeft) {
@@ -154,6 +150,34 @@ INSTANTIATE_TEST_SUITE_P(
         policy_case{"skip", {"reprojected", "failed", "reprojected", "unchanged"}, true, true},
         policy_case{"rollback", {"unchanged", "failed", "not attempted", "not attempted"}, false, false}),
     case_name);
+
+/// The log beside the project reaches a limit in mid-run: every scene is wholly old or wholly new, and said
+/// to be so.
+TEST(FullDisk, LeavesWholeScenesAndTellsWhich) {
+    const sandbox box;
+    std::vector<source_line> lines;
+    for (int i = 0; i < 8; ++i) {
+        polyline& line = lines.emplace_back(source_line{std::to_string(i), wgs84, {}}).line;
+        for (int k = 0; k < 3000; ++k) line.push_back({57 + i * 0.1, 50 + k * 0.001});
+    }
+    box.make_project(lines);
+    const auto run = box.oxhost({"reproject", "p.gpkg", "--to", utm40, "--all"}, "en",
+                                "trap '' XFSZ; ulimit -f 400;");  // 200 KB of the 400 KB
+    EXPECT_EQ(run.code, 1);
+    const auto texts = box.listed("proj4");
+    const auto after = box.exported_lines();
+    int stored = 0;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const bool is_new = texts[i] == utm40;
+        stored += is_new;
+        EXPECT_EQ(after[i][0].x > 1000, is_new) << i;
+        EXPECT_EQ((run.error.find("scene " + std::to_string(i) + " \"") != std::string::npos), !is_new)
+            << run.error;
+    }
+    EXPECT_GT(stored, 0);
+    EXPECT_LT(stored, 8);
+    EXPECT_NE(run.out.find(std::to_string(stored) + " reprojected"), std::string::npos) << run.out;
+}
 
 TEST(Report, MeasuresTheLine) {
     const sandbox box;
@@ -208,8 +232,6 @@ struct question_case {
     const char* asked;
     std::vector<std::string> texts;  ///< of both scenes after a yes
 };
-
-void PrintTo(const question_case& of, std::ostream* out) { *out << of.name; }
 
 class Question : public testing::TestWithParam<question_case> {};
 

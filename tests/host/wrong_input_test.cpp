@@ -16,8 +16,6 @@ struct wrong_input {
     const char* said;  ///< part of the one line
 };
 
-void PrintTo(const wrong_input& of, std::ostream* out) { *out << of.name; }
-
 class WrongInput : public testing::TestWithParam<wrong_input> {};
 
 /// The one line on the error output names the culprit; neither the project nor any other file changes.

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "case_name.h"
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 #include "prf_reproj/prf_tools.h"
 #include "prf_reproj/profile_list.h"
 #include "prf_reproj/profile_table.h"

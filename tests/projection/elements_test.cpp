@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "case_name.h"
-#include "double/host_double.h"
 #include "framework/value_visitors.h"
+#include "host_double/host_double.h"
 #include "projection/crs_dialog.h"
 #include "projection/proj4_input.h"
 #include "projection/projection_files.h"

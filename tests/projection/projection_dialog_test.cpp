@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "case_name.h"
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 #include "projection/projection_dialog.h"
 #include "support/catalogue_columns.h"
 #include "support/dbf.h"

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "platform/platform.h"
 #include "case_name.h"
+#include "platform/platform.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/posix/picture_files.h"
 #include "case_name.h"
+#include "platform/posix/picture_files.h"
 #include "session/picture_builder.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "case_name.h"
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 #include "support/dbf_builder.h"
 #include "support/encodings.h"
 #include "support/pieces.h"

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "case_name.h"
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 #include "support/string_adapter.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 #include "support/encodings.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "projection/proj4_string.h"
 #include "case_name.h"
+#include "projection/proj4_string.h"
 #include "support/numeric_locale.h"
 
 namespace {

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "case_name.h"
-#include "double/host_double.h"
 #include "framework/local_factory.h"
 #include "framework/referent.h"
 #include "framework/value_visitors.h"
+#include "host_double/host_double.h"
 #include "resources/text.h"
 #include "toolkit/view.h"
 

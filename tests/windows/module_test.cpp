@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "double/host_double.h"
 #include "framework/call.h"
 #include "framework/interfaces/dialogs.h"
 #include "framework/interfaces/services.h"
 #include "framework/polymorphic.h"
 #include "framework/value_visitors.h"
+#include "host_double/host_double.h"
 #include "platform/platform.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "host_api/oxk_prg.h"
 
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 
 using host_double::host;
 using host_double::line;

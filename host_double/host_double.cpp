@@ -1,4 +1,4 @@
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "host_api/oxk_entity.h"
 
-#include "double/host_double.h"
+#include "host_double/host_double.h"
 
 namespace {
 void bracket(const char* word, void* scene, int change) {

@@ -1,5 +1,5 @@
 #pragma once
-/// A host for tests: every call is logged, every answer scripted, every object counted.
+/// A host for the checker and the tests: every call is logged, every answer scripted, every object counted.
 
 #include <cstddef>
 #include <functional>
