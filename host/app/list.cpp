@@ -50,8 +50,7 @@ void print_table(const project& of) {
     row("#", heads[0], heads[1], heads[2]);
     for (const scene& each : of.scenes()) {
         std::string projection = each.proj4.empty() ? std::string(in_language("нет", "none")) : each.proj4;
-        if (!each.profile)
-            projection = std::string(in_language("(не разрез) ", "(no profile) ")) + projection;
+        if (!each.profile) projection.insert(0, in_language("(не разрез) ", "(no profile) "));
         row(std::to_string(each.index), each.caption, std::to_string(vertices(each)), projection);
     }
 }

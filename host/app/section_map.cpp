@@ -74,7 +74,7 @@ std::vector<drawn_scene> place_scenes(const run_record& run) {
     std::vector<drawn_scene> scenes;
     for (std::size_t i = 0; i < run.results.size(); ++i) {
         const scene_result& of = run.results[i];
-        drawn_scene& drawn = scenes.emplace_back(of.of->caption, look_of(of.came_to));
+        drawn_scene& drawn = scenes.emplace_back(drawn_scene{of.of->caption, look_of(of.came_to), {}, {}});
         if (of.came_to == outcome::reprojected || of.came_to == outcome::reset)
             drawn.before = placed(run.before[i], of.source);
         drawn.after = placed(run.after[i], of.of->proj4);

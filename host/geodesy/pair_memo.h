@@ -23,7 +23,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t most_kept = 4096;
+    static constexpr std::size_t most_kept = 32768;  // a large project, a projection per line; tens of MB
 
     std::basic_string<Char> key_;  // keeps its buffer from call to call
     std::unordered_map<std::basic_string<Char>, bool> judged_;
