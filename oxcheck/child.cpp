@@ -102,8 +102,8 @@ outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::mil
     fs::create_directory(folder.path() / work);
     using ended = platform::ending::kind;
     platform::ending end;
-    // What did not start has done nothing, so it may be tried again: on a busy machine Wine now and then
-    // loses a process before its first instruction.
+    // What did not start has done nothing, so it may be tried again: under address randomisation Wine now
+    // and then loses a process before its first instruction.
     for (int tries = 3; tries > 0 && end.how == ended::not_started; --tries)
         end = platform::run_self({child_option, what.name, bundle, folder.path()}, folder.path() / work,
                                  folder.path() / output, limit);
