@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 #include "support/catalogue.h"
 #include "support/catalogue_columns.h"
 #include "support/dbf.h"

@@ -1,11 +1,11 @@
-# ox_host_imports: import libraries of the host's modules, made from the declarations in module/host_api,
+# ox_host_imports: import libraries of the host's modules, made from the declarations in border/host_api,
 # so that the plug-in can be linked for Windows without the host at hand. oxk_entity is left out: what a
 # host may lack must not stand in the import table.
 set(imports ${CMAKE_BINARY_DIR}/host_imports)
 add_library(ox_host_imports INTERFACE)
 set(libraries)
 foreach(module oxk_basic oxk_prj oxk_scn_2d oxk_prg oxk_proj4_d2 oxk_msgs)
-  set(header ${CMAKE_SOURCE_DIR}/module/host_api/${module}.h)
+  set(header ${CMAKE_SOURCE_DIR}/border/host_api/${module}.h)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header})
   file(READ ${header} declarations)
   string(REGEX MATCHALL "OX_HOST_API [^(]+" heads "${declarations}")

@@ -1,4 +1,4 @@
-#include "checks.h"
+#include "oxcheck/checks.h"
 
 namespace oxcheck {
 

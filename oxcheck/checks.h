@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "check.h"
+#include "oxcheck/check.h"
 
 namespace oxcheck {
 

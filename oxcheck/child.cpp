@@ -1,4 +1,4 @@
-#include "child.h"
+#include "oxcheck/child.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include <iterator>
 #include <random>
 
-#include "platform/platform.h"
+#include "oxcheck/system/system.h"
 
 namespace oxcheck {
 
@@ -100,13 +100,13 @@ const std::string& last_note() { return current_note(); }
 outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::milliseconds limit) {
     const temporary_folder folder;
     fs::create_directory(folder.path() / work);
-    using ended = platform::ending::kind;
-    platform::ending end;
+    using ended = system::ending::kind;
+    system::ending end;
     // What did not start has done nothing, so it may be tried again: under address randomisation Wine now
     // and then loses a process before its first instruction.
     for (int tries = 3; tries > 0 && end.how == ended::not_started; --tries)
-        end = platform::run_self({child_option, what.name, bundle, folder.path()}, folder.path() / work,
-                                 folder.path() / output, limit);
+        end = system::run_self({child_option, what.name, bundle, folder.path()}, folder.path() / work,
+                               folder.path() / output, limit);
     outcome found;
     if (end.how == ended::exited && end.code == 0 && read_answer(folder.path() / answer, found)) return found;
     found = {verdict::failed, what.claim, {}};
@@ -129,8 +129,8 @@ outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::mil
 }
 
 int run_as_child(const std::string& name, const fs::path& bundle, const fs::path& folder) {
-    platform::crash_quietly();
-    platform::load_host_modules();
+    system::crash_quietly();
+    system::load_host_modules();
     note_file() = folder / notes;
     for (const check& each : all_checks())
         if (each.name == name) {

@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "check.h"
+#include "oxcheck/check.h"
 
 namespace oxcheck {
 

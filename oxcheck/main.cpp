@@ -4,10 +4,10 @@
 #include <fstream>
 #include <iostream>
 
-#include "child.h"
-#include "options.h"
-#include "platform/platform.h"
-#include "report.h"
+#include "oxcheck/child.h"
+#include "oxcheck/options.h"
+#include "oxcheck/report.h"
+#include "oxcheck/system/system.h"
 
 namespace oxcheck {
 namespace {
@@ -81,7 +81,7 @@ int run(const std::vector<fs::path>& arguments) {
 
 int main(int count, char** values) {
     try {
-        return oxcheck::run(oxcheck::platform::arguments(count, values));
+        return oxcheck::run(oxcheck::system::arguments(count, values));
     } catch (const oxcheck::usage_error& problem) {
         std::cerr << "oxcheck: " << problem.what() << "\n" << oxcheck::usage_text;
         return oxcheck::wrong_usage;

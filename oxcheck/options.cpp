@@ -1,4 +1,4 @@
-#include "options.h"
+#include "oxcheck/options.h"
 
 #include <charconv>
 

@@ -1,4 +1,4 @@
-#include "report.h"
+#include "oxcheck/report.h"
 
 #include <algorithm>
 #include <ostream>

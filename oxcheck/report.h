@@ -5,7 +5,7 @@
 #include <iosfwd>
 #include <vector>
 
-#include "check.h"
+#include "oxcheck/check.h"
 
 namespace oxcheck {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "framework/custom_pointer.h"
+#include "border/custom_pointer.h"
 
 namespace oxhost::shell {
 

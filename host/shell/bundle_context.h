@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include "framework/interfaces/lifetime.h"
-#include "framework/interfaces/services.h"
-#include "framework/polymorphic.h"
+#include "border/interfaces/lifetime.h"
+#include "border/interfaces/services.h"
+#include "border/polymorphic.h"
 
 namespace oxhost::shell {
 

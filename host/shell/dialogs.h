@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/interfaces/dialogs.h"
+#include "border/interfaces/dialogs.h"
 #include "shell/node.h"
 
 namespace oxhost::shell {

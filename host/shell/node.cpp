@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "framework/interfaces/controls.h"
-#include "framework/interfaces/tools.h"
+#include "border/interfaces/controls.h"
+#include "border/interfaces/tools.h"
 #include "shell/node_state.h"
 #include "shell/read_utf8.h"
 

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "framework/interfaces/layouts.h"
+#include "border/interfaces/layouts.h"
 #include "shell/picture.h"
 #include "shell/table.h"
 

@@ -1,7 +1,7 @@
 #include "shell/picture.h"
 
-#include "framework/call.h"
-#include "framework/interfaces/values.h"
+#include "border/call.h"
+#include "border/interfaces/values.h"
 
 namespace oxhost::shell {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "framework/custom_pointer.h"
+#include "border/custom_pointer.h"
 
 namespace oxhost::shell {
 

@@ -3,18 +3,25 @@
 #include <string>
 #include <utility>
 
-#include "framework/call.h"
-#include "framework/value_visitors.h"
+#include "border/call.h"
+#include "border/interfaces/values.h"
 #include "session/string_adapter.h"
 
 namespace oxhost::shell {
 
+/// Keeps the last text it was handed.
+struct text_reader final : ox::string_visitor_impl {
+    std::string text;
+    void visit(const wchar_t* handed) override { text = to_utf8(handed); }
+};
+
 /// The text that `Operation` of a bundle's object hands to a string visitor, which is its last argument.
 template <auto Operation, class... A>
 std::string read_utf8(ox::custom_pointer object, A&&... arguments) {
-    return to_utf8(ox::read_text([&](ox::custom_pointer string_visitor) {
-        ox::call<Operation>(object, std::forward<A>(arguments)..., string_visitor);
-    }));
+    text_reader reader;
+    ox::call<Operation>(object, std::forward<A>(arguments)...,
+                        ox::make_pointer<ox::string_visitor_impl>(reader));
+    return std::move(reader.text);
 }
 
 }  // namespace oxhost::shell

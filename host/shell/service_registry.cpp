@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/call.h"
+#include "border/call.h"
 #include "session/string_adapter.h"
 
 namespace oxhost::shell {

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "framework/interfaces/dialogs.h"
-#include "framework/interfaces/services.h"
-#include "framework/polymorphic.h"
-#include "framework/ref.h"
+#include "border/interfaces/dialogs.h"
+#include "border/interfaces/services.h"
+#include "border/polymorphic.h"
+#include "border/ref.h"
 #include "shell/dialogs.h"
 
 namespace oxhost::shell {

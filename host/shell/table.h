@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/interfaces/outlines.h"
+#include "border/interfaces/outlines.h"
 #include "shell/picture.h"
 
 namespace oxhost::shell {

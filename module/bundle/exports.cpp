@@ -1,8 +1,8 @@
 /// The two functions by which the host knows this module.
 
-#include "framework/call.h"
+#include "border/call.h"
+#include "border/linkage.h"
 #include "framework/factories.h"
-#include "platform/border.h"
 
 namespace ox {
 

@@ -23,7 +23,7 @@ auto utility_holders() {
 }
 
 modal_dialog_service_factory<nullptr> plain_dialogs;
-util::service_factory<scn2d_prf_reproj_utility> utilities(category_key(L"/utility").c_str(),
+util::service_factory<scn2d_prf_reproj_utility> utilities(category_key(utility_category).c_str(),
                                                           utility_holders());
 modal_dialog_service_factory<scn2d_prf_reproj_utility::id> utility_dialogs;
 detail::local_factory_impl local_client;

@@ -1,6 +1,6 @@
 #include "framework/factories.h"
 
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox {
 

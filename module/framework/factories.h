@@ -4,7 +4,7 @@
 #include <list>
 #include <string>
 
-#include "framework/interfaces/services.h"
+#include "border/interfaces/services.h"
 
 namespace ox {
 

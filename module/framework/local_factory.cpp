@@ -1,14 +1,12 @@
 #include "framework/local_factory.h"
 
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox {
 
 namespace {
 detail::local_factory_impl* instance = nullptr;
 }
-
-std::wstring category_key(const wchar_t* suffix) { return std::wstring(OX_HOST_NAMESPACE) + suffix; }
 
 custom_pointer current_localizer() { return instance ? instance->localizer() : custom_pointer{}; }
 
@@ -25,7 +23,7 @@ void local_factory_impl::create(custom_pointer context, custom_pointer) {
 }
 
 void local_factory_impl::visit_registry(custom_pointer registry) {
-    call<&service_registry_impl::visit>(registry, category_key(L"/localizer").c_str(),
+    call<&service_registry_impl::visit>(registry, category_key(localizer_category).c_str(),
                                         make_pointer<service_visitor_impl>(*this));
 }
 

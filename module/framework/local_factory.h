@@ -1,14 +1,11 @@
 #pragma once
 /// The module as a client of the host's localizers.
 
+#include "border/polymorphic.h"
+#include "border/ref.h"
 #include "framework/factories.h"
-#include "framework/polymorphic.h"
-#include "framework/ref.h"
 
 namespace ox {
-
-/// Category key of this build's host: its domain-style namespace followed by `suffix`.
-std::wstring category_key(const wchar_t* suffix);
 
 /// The host's localizer for this module, or empty. It answers lookups of the module's own texts and
 /// pictures while it lives.

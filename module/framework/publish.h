@@ -1,7 +1,7 @@
 #pragma once
 /// How a module offers a service to the host.
 
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox {
 

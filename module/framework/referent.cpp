@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox {
 

@@ -6,8 +6,8 @@
 
 #include <list>
 
-#include "framework/interfaces/lifetime.h"
-#include "framework/ref.h"
+#include "border/interfaces/lifetime.h"
+#include "border/ref.h"
 
 namespace ox {
 

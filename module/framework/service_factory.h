@@ -4,9 +4,9 @@
 #include <memory>
 #include <vector>
 
+#include "border/ref.h"
 #include "framework/factories.h"
 #include "framework/publish.h"
-#include "framework/ref.h"
 
 namespace ox::util {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox::detail {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "framework/binding.h"
-#include "framework/interfaces/values.h"
+#include "border/binding.h"
+#include "border/interfaces/values.h"
 
 namespace ox {
 

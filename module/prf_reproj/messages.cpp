@@ -1,6 +1,6 @@
 #include "prf_reproj/messages.h"
 
-#include "host_api/oxk_msgs.h"
+#include "border/host_api/oxk_msgs.h"
 #include "toolkit/resource_lookup.h"
 
 namespace ox::prf_reproj {

@@ -2,9 +2,9 @@
 
 #include <set>
 
-#include "host_api/oxk_prj.h"
-#include "host_api/oxk_proj4_d2.h"
-#include "host_api/oxk_scn_2d.h"
+#include "border/host_api/oxk_prj.h"
+#include "border/host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_scn_2d.h"
 #include "resources/text.h"
 #include "support/string_adapter.h"
 #include "toolkit/resource_lookup.h"

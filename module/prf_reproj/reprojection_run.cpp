@@ -2,11 +2,11 @@
 
 #include <memory>
 
-#include "host_api/oxk_entity.h"
-#include "host_api/oxk_msgs.h"
-#include "host_api/oxk_prg.h"
-#include "host_api/oxk_proj4_d2.h"
-#include "host_api/oxk_scn_2d.h"
+#include "border/host_api/oxk_entity.h"
+#include "border/host_api/oxk_msgs.h"
+#include "border/host_api/oxk_prg.h"
+#include "border/host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_scn_2d.h"
 #include "platform/platform.h"
 #include "prf_reproj/messages.h"
 #include "resources/text.h"

@@ -5,7 +5,7 @@
 #include <cwchar>
 #include <limits>
 
-#include "host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_proj4_d2.h"
 #include "support/string_adapter.h"
 #include "toolkit/docker.h"
 #include "toolkit/modal_dialog.h"

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_proj4_d2.h"
 #include "toolkit/event.h"
 #include "toolkit/layouts.h"
 #include "toolkit/outline_table.h"

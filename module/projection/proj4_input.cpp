@@ -1,6 +1,6 @@
 #include "projection/proj4_input.h"
 
-#include "host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_proj4_d2.h"
 #include "projection/projection_dialog.h"
 #include "projection/projection_files.h"
 #include "resources/text.h"

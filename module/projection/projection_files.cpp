@@ -1,7 +1,7 @@
 #include "projection/projection_files.h"
 
+#include "border/host_api/oxk_proj4_d2.h"
 #include "framework/value_visitors.h"
-#include "host_api/oxk_proj4_d2.h"
 #include "resources/text.h"
 #include "support/string_adapter.h"
 #include "toolkit/modal_dialog.h"

@@ -1,6 +1,6 @@
 #include <filesystem>
 
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 #include "support/catalogue.h"
 #include "support/encodings.h"
 #include "support/string_adapter.h"

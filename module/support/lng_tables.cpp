@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 #include "support/cp1251.h"
 
 namespace ox {

@@ -1,6 +1,6 @@
 #include "support/string_adapter.h"
 
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 #include "support/encodings.h"
 
 namespace ox {

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "framework/interfaces/controls.h"
-#include "framework/interfaces/tools.h"
+#include "border/interfaces/controls.h"
+#include "border/interfaces/tools.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "framework/interfaces/dialogs.h"
+#include "border/interfaces/dialogs.h"
 #include "toolkit/button_layout.h"
 
 namespace ox::toolkit {

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "framework/interfaces/dialogs.h"
-#include "framework/interfaces/layouts.h"
+#include "border/interfaces/dialogs.h"
+#include "border/interfaces/layouts.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

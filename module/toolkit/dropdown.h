@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/interfaces/controls.h"
+#include "border/interfaces/controls.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

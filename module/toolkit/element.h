@@ -3,11 +3,11 @@
 
 #include <type_traits>
 
-#include "framework/call.h"
-#include "framework/interfaces/controls.h"
-#include "framework/interfaces/layouts.h"
-#include "framework/interfaces/outlines.h"
-#include "framework/interfaces/tools.h"
+#include "border/call.h"
+#include "border/interfaces/controls.h"
+#include "border/interfaces/layouts.h"
+#include "border/interfaces/outlines.h"
+#include "border/interfaces/tools.h"
 
 namespace ox::toolkit::detail {
 

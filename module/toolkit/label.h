@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framework/interfaces/controls.h"
+#include "border/interfaces/controls.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

@@ -1,11 +1,11 @@
 #pragma once
 /// Where the host attaches the dialog host that shows this module's dialogs, one place per dialog id.
 
-#include "framework/call.h"
+#include "border/call.h"
+#include "border/interfaces/dialogs.h"
+#include "border/ref.h"
 #include "framework/factories.h"
-#include "framework/interfaces/dialogs.h"
 #include "framework/publish.h"
-#include "framework/ref.h"
 #include "framework/referent.h"
 #include "toolkit/button_box.h"
 

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "framework/interfaces/controls.h"
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
+#include "border/interfaces/controls.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

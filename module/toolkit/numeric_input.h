@@ -3,7 +3,7 @@
 #include <functional>
 #include <limits>
 
-#include "framework/interfaces/controls.h"
+#include "border/interfaces/controls.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "framework/interfaces/outlines.h"
+#include "border/interfaces/outlines.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

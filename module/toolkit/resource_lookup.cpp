@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "framework/call.h"
-#include "framework/interfaces/services.h"
+#include "border/call.h"
+#include "border/host_api/oxk_basic.h"
+#include "border/interfaces/services.h"
 #include "framework/local_factory.h"
 #include "framework/value_visitors.h"
-#include "host_api/oxk_basic.h"
 
 namespace ox::resource {
 

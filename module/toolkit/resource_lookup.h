@@ -10,8 +10,8 @@
 #include <optional>
 #include <string>
 
-#include "framework/custom_pointer.h"
-#include "framework/interfaces/values.h"
+#include "border/custom_pointer.h"
+#include "border/interfaces/values.h"
 #include "platform/platform.h"
 
 namespace ox::resource {

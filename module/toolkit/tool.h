@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "framework/interfaces/tools.h"
+#include "border/interfaces/tools.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

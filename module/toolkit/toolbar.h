@@ -5,7 +5,7 @@
 #include <deque>
 #include <utility>
 
-#include "framework/interfaces/tools.h"
+#include "border/interfaces/tools.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 #include "toolkit/docker.h"
 #include "toolkit/modal_dialog.h"
 

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "framework/call.h"
-#include "framework/interfaces/layouts.h"
-#include "framework/interfaces/values.h"
+#include "border/call.h"
+#include "border/interfaces/layouts.h"
+#include "border/interfaces/values.h"
 #include "toolkit/resource_lookup.h"
 
 namespace ox::toolkit {

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <deque>
 
-#include "checks.h"
-#include "host/anything.h"
-#include "host/script.h"
-#include "tree/ask.h"
-#include "tree/play.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/anything.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/tree/ask.h"
+#include "oxcheck/tree/play.h"
 
 namespace oxcheck {
 

@@ -1,9 +1,9 @@
 // The bundle entry and its table.
 
-#include "checks.h"
-#include "framework/call.h"
-#include "host/anything.h"
-#include "host/session.h"
+#include "border/call.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/anything.h"
+#include "oxcheck/stage/session.h"
 
 namespace oxcheck {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "checks.h"
-#include "framework/local_factory.h"
-#include "host/script.h"
-#include "host/session.h"
+#include "border/interfaces/services.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/stage/session.h"
 
 namespace oxcheck {
 
@@ -65,7 +65,7 @@ void come_in_order(const subject& given) {
     require(does == expected, join(expected), join(does));
 
     std::vector<std::wstring> expected_keys(keys.size());
-    expected_keys[1] = ox::category_key(L"/utility");
+    expected_keys[1] = ox::category_key(ox::utility_category);
     require(keys == expected_keys, "the keys " + join(expected_keys), join(keys));
 }
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <set>
 
-#include "checks.h"
-#include "host/brackets.h"
-#include "host/script.h"
-#include "tree/play.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/brackets.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/tree/play.h"
 
 namespace oxcheck {
 

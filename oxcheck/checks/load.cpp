@@ -4,10 +4,10 @@
 #include <chrono>
 #include <cstdio>
 
-#include "checks.h"
-#include "files/exports.h"
-#include "host/script.h"
-#include "host/session.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/files/exports.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/stage/session.h"
 
 namespace oxcheck {
 
@@ -18,7 +18,7 @@ using host_double::host;
 
 void opens(const subject& given) {
     try {
-        const platform::library library(given.bundle);
+        const system::library library(given.bundle);
         require(library.find(entry_name) != nullptr, std::string("the export ") + entry_name, "none");
     } catch (const failure&) {
         throw;
@@ -37,7 +37,7 @@ void exports_two_names(const subject& given) {
 }
 
 /// What grew in both of two equal stretches of time: what grows in one of them only is the ways of a heap.
-std::size_t steady_growth(const platform::holdings (&at)[3], std::size_t platform::holdings::*amount) {
+std::size_t steady_growth(const system::holdings (&at)[3], std::size_t system::holdings::*amount) {
     const auto grown = [&](int from, int to) {
         return at[to].*amount > at[from].*amount ? at[to].*amount - at[from].*amount : 0;
     };
@@ -54,21 +54,21 @@ void unloads_without_trace(const subject& given) {
         host_double::reset();
     };
     once();
-    require(!platform::is_loaded(given.bundle), "the library leaves the process when it is unloaded",
+    require(!system::is_loaded(given.bundle), "the library leaves the process when it is unloaded",
             "it stays mapped");
     for (int i = 1; i < warm_up; ++i) once();
-    platform::holdings at[3];
-    at[0] = platform::count_holdings();
+    system::holdings at[3];
+    at[0] = system::count_holdings();
     for (int i = 1; i < 3; ++i) {
         for (int k = 0; k < times; ++k) once();
-        at[i] = platform::count_holdings();
+        at[i] = system::count_holdings();
     }
-    require_equal(steady_growth(at, &platform::holdings::handles), std::size_t{0},
+    require_equal(steady_growth(at, &system::holdings::handles), std::size_t{0},
                   "more handles after ten times:");
-    const std::size_t heap = steady_growth(at, &platform::holdings::heap);
-    require(heap <= times * platform::kept_by_runtime(), "no growth of the heap in ten times",
+    const std::size_t heap = steady_growth(at, &system::holdings::heap);
+    require(heap <= times * system::kept_by_runtime(), "no growth of the heap in ten times",
             std::to_string(heap) + " bytes");
-    const std::size_t mapped = steady_growth(at, &platform::holdings::mapped);
+    const std::size_t mapped = steady_growth(at, &system::holdings::mapped);
     require(mapped < times * std::size_t{65536}, "no growth of the address space in ten times",
             std::to_string(mapped) + " bytes");
 }
@@ -90,11 +90,11 @@ void loads_quickly(const subject& given) {
 
 void loads_silently(const subject& given) {
     host_double::reset();
-    const std::size_t windows = platform::count_holdings().windows;
+    const std::size_t windows = system::count_holdings().windows;
     const bundle loaded(given.bundle);
     loaded.enter(nullptr);
     std::fflush(nullptr);
-    require_equal(platform::count_holdings().windows, windows, "windows of the thread:");
+    require_equal(system::count_holdings().windows, windows, "windows of the thread:");
     require(fs::is_empty(fs::current_path()), "no file in the working folder",
             fs::is_empty(fs::current_path())
                 ? ""

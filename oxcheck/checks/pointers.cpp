@@ -4,10 +4,10 @@
 #include <map>
 #include <set>
 
-#include "checks.h"
-#include "host/script.h"
-#include "host/session.h"
-#include "tree/element.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/stage/session.h"
+#include "oxcheck/tree/element.h"
 
 namespace oxcheck {
 

@@ -1,8 +1,8 @@
 // Lifetimes of the services.
 
-#include "checks.h"
-#include "host/script.h"
-#include "host/session.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/stage/session.h"
 
 namespace oxcheck {
 

@@ -1,9 +1,9 @@
 // Running the utility in a host that works.
 
-#include "checks.h"
-#include "host/brackets.h"
-#include "host/script.h"
-#include "tree/play.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/brackets.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/tree/play.h"
 
 namespace oxcheck {
 
@@ -67,7 +67,7 @@ void grows_no_memory(const subject& given) {
         play(started).run();
         host_double::reset();
         if (late_calls().empty()) forget_lent_objects();
-        if (i % interval == interval - 1) heap[i / interval] = platform::count_holdings().heap;
+        if (i % interval == interval - 1) heap[i / interval] = system::count_holdings().heap;
     }
     require(heap[2] <= heap[1] || heap[1] <= heap[0], "no growth of the heap from run to run",
             std::to_string(heap[2] - heap[1]) + " bytes in " + std::to_string(interval) + " runs");

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "checks.h"
-#include "host/script.h"
-#include "tree/play.h"
+#include "oxcheck/checks.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/tree/play.h"
 
 namespace oxcheck {
 

@@ -1,6 +1,6 @@
 // Numbers and layouts of the System V ABI, 64-bit.
 
-#include "files/exports.h"
+#include "oxcheck/files/exports.h"
 
 namespace oxcheck {
 

@@ -1,4 +1,4 @@
-#include "files/exports.h"
+#include "oxcheck/files/exports.h"
 
 #include <fstream>
 #include <iterator>

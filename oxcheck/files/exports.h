@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "files/byte_view.h"
+#include "oxcheck/files/byte_view.h"
 
 namespace oxcheck {
 

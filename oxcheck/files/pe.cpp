@@ -1,6 +1,6 @@
 // Numbers and layouts of the Portable Executable format, 64-bit.
 
-#include "files/exports.h"
+#include "oxcheck/files/exports.h"
 
 namespace oxcheck {
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <tuple>
 
-#include "tree/element.h"
+#include "oxcheck/tree/element.h"
 
 namespace oxcheck {
 

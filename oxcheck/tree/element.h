@@ -5,14 +5,14 @@
 #include <type_traits>
 #include <vector>
 
-#include "framework/call.h"
-#include "framework/interfaces/controls.h"
-#include "framework/interfaces/dialogs.h"
-#include "framework/interfaces/layouts.h"
-#include "framework/interfaces/lifetime.h"
-#include "framework/interfaces/outlines.h"
-#include "framework/interfaces/services.h"
-#include "framework/interfaces/tools.h"
+#include "border/call.h"
+#include "border/interfaces/controls.h"
+#include "border/interfaces/dialogs.h"
+#include "border/interfaces/layouts.h"
+#include "border/interfaces/lifetime.h"
+#include "border/interfaces/outlines.h"
+#include "border/interfaces/services.h"
+#include "border/interfaces/tools.h"
 
 namespace oxcheck {
 

@@ -1,9 +1,9 @@
-#include "tree/play.h"
+#include "oxcheck/tree/play.h"
 
 #include <algorithm>
 
-#include "host/script.h"
-#include "tree/user.h"
+#include "oxcheck/stage/script.h"
+#include "oxcheck/tree/user.h"
 
 namespace oxcheck {
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "host/session.h"
-#include "tree/element.h"
+#include "oxcheck/stage/session.h"
+#include "oxcheck/tree/element.h"
 
 namespace oxcheck {
 

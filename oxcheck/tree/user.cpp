@@ -1,9 +1,9 @@
-#include "tree/user.h"
+#include "oxcheck/tree/user.h"
 
 #include <algorithm>
 
-#include "host/anything.h"
-#include "host/script.h"
+#include "oxcheck/stage/anything.h"
+#include "oxcheck/stage/script.h"
 
 namespace oxcheck {
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "tree/element.h"
+#include "oxcheck/tree/element.h"
 
 namespace oxcheck {
 

@@ -1,5 +1,5 @@
-#include "host/lent.h"
-#include "tree/element.h"
+#include "oxcheck/stage/lent.h"
+#include "oxcheck/tree/element.h"
 
 namespace oxcheck {
 

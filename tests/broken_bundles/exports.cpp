@@ -1,5 +1,5 @@
+#include "border/call.h"
 #include "fault.h"
-#include "framework/call.h"
 #include "framework/factories.h"
 
 #if defined(_WIN32)

@@ -65,7 +65,7 @@ struct loading {
 using ox::util::detail::modal_dialog_service_factory;
 using utility_factory = ox::util::service_factory<utility>;
 
-utility_factory make_utilities() { return {ox::category_key(L"/utility").c_str(), holders()}; }
+utility_factory make_utilities() { return {ox::category_key(ox::utility_category).c_str(), holders()}; }
 
 struct in_order {
     modal_dialog_service_factory<nullptr> plain_dialogs;

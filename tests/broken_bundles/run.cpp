@@ -2,12 +2,12 @@
 
 #include <memory>
 
+#include "border/host_api/oxk_msgs.h"
+#include "border/host_api/oxk_prg.h"
+#include "border/host_api/oxk_prj.h"
+#include "border/host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_scn_2d.h"
 #include "fault.h"
-#include "host_api/oxk_msgs.h"
-#include "host_api/oxk_prg.h"
-#include "host_api/oxk_prj.h"
-#include "host_api/oxk_proj4_d2.h"
-#include "host_api/oxk_scn_2d.h"
 #include "platform/platform.h"
 #include "resources/text.h"
 #include "support/string_adapter.h"

@@ -1,4 +1,4 @@
-#include "catalogue/catalogue_tables.h"
+#include "catalogue_tables.h"
 
 #include <stdexcept>
 

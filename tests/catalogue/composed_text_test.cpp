@@ -4,8 +4,8 @@
 
 #include <map>
 
-#include "catalogue/catalogue_tables.h"
-#include "catalogue/proj_objects.h"
+#include "catalogue_tables.h"
+#include "proj_objects.h"
 #include "projection/proj_params.h"
 
 namespace catalogue_test {

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <set>
 
-#include "catalogue/catalogue_tables.h"
-#include "catalogue/proj_objects.h"
+#include "catalogue_tables.h"
+#include "proj_objects.h"
 #include "support/numbers.h"
 
 namespace catalogue_test {

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-#include "case_name.h"
-#include "framework/call.h"
+#include "border/call.h"
 #include "framework/value_visitors.h"
+#include "testing/case_name.h"
 
 namespace ox {
 namespace {

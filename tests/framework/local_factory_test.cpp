@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/call.h"
+#include "border/call.h"
 #include "framework/local_factory.h"
 #include "framework/referent.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "framework/interfaces/dialogs.h"
+#include "border/interfaces/dialogs.h"
 #include "framework/referent.h"
 
 namespace ox {

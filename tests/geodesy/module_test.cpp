@@ -3,8 +3,8 @@
 #include <clocale>
 #include <cmath>
 
+#include "border/host_api/oxk_proj4_d2.h"
 #include "geodesy/projection_files.h"
-#include "host_api/oxk_proj4_d2.h"
 #include "session/journal.h"
 #include "session/language.h"
 #include "session/string_adapter.h"

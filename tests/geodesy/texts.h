@@ -9,7 +9,7 @@
 #include <iterator>
 #include <string>
 
-#include "case_name.h"
+#include "testing/case_name.h"
 
 namespace texts {
 

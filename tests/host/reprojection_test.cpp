@@ -3,8 +3,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "case_name.h"
 #include "oxhost_run.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "case_name.h"
 #include "oxhost_run.h"
+#include "testing/case_name.h"
 
 namespace {
 

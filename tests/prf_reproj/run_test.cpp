@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-#include "case_name.h"
-#include "host_double/host_double.h"
 #include "prf_reproj/prf_tools.h"
 #include "prf_reproj/profile_list.h"
 #include "prf_reproj/profile_table.h"
 #include "prf_reproj/reprojection_run.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 
 namespace ox::prf_reproj {
 namespace {

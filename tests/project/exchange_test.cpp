@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
-#include "project/workspace.h"
+#include "testing/case_name.h"
+#include "workspace.h"
 
 namespace project_test {
 namespace {

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <thread>
 
-#include "project/workspace.h"
+#include "workspace.h"
 
 namespace project_test {
 namespace {

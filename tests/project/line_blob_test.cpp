@@ -7,7 +7,7 @@
 #include <bit>
 #include <vector>
 
-#include "case_name.h"
+#include "testing/case_name.h"
 
 namespace {
 

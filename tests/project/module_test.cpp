@@ -2,13 +2,13 @@
 #include <signal.h>
 #include <sys/resource.h>
 
-#include "host_api/oxk_entity.h"
-#include "host_api/oxk_prg.h"
-#include "host_api/oxk_prj.h"
-#include "host_api/oxk_scn_2d.h"
-#include "project/workspace.h"
+#include "border/host_api/oxk_entity.h"
+#include "border/host_api/oxk_prg.h"
+#include "border/host_api/oxk_prj.h"
+#include "border/host_api/oxk_scn_2d.h"
 #include "session/journal.h"
 #include "session/string_adapter.h"
+#include "workspace.h"
 
 namespace project_test {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <functional>
 
-#include "case_name.h"
 #include "project/sqlite.h"
-#include "project/workspace.h"
+#include "testing/case_name.h"
+#include "workspace.h"
 
 namespace project_test {
 namespace {

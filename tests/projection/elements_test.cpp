@@ -4,12 +4,12 @@
 
 #include <functional>
 
-#include "case_name.h"
 #include "framework/value_visitors.h"
-#include "host_double/host_double.h"
 #include "projection/crs_dialog.h"
 #include "projection/proj4_input.h"
 #include "projection/projection_files.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 #include "toolkit/modal_dialog.h"
 
 namespace ox {

@@ -4,12 +4,12 @@
 
 #include <filesystem>
 
-#include "case_name.h"
-#include "host_double/host_double.h"
 #include "projection/projection_dialog.h"
 #include "support/catalogue_columns.h"
 #include "support/dbf.h"
 #include "support/encodings.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 
 namespace ox {
 namespace {

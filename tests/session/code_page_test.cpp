@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "case_name.h"
 #include "platform/platform.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "case_name.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include <sstream>
 
-#include "case_name.h"
 #include "session/console_messages.h"
 #include "session/language.h"
+#include "testing/case_name.h"
 
 namespace {
 

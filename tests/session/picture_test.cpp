@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "case_name.h"
+#include "picture_builder.h"
 #include "platform/posix/picture_files.h"
-#include "session/picture_builder.h"
+#include "testing/case_name.h"
 
 namespace {
 

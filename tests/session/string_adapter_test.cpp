@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "case_name.h"
-#include "host_double/host_double.h"
-#include "support/dbf_builder.h"
+#include "dbf_builder.h"
+#include "pieces.h"
 #include "support/encodings.h"
-#include "support/pieces.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include <array>
 #include <bit>
 
-#include "case_name.h"
+#include "dbf_builder.h"
+#include "recording_env.h"
 #include "support/catalogue.h"
 #include "support/dbf.h"
-#include "support/dbf_builder.h"
-#include "support/recording_env.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 
 #include <sstream>
 
-#include "case_name.h"
-#include "support/dbf_builder.h"
+#include "dbf_builder.h"
+#include "recording_env.h"
 #include "support/dbf_text.h"
 #include "support/lng_tables.h"
-#include "support/recording_env.h"
+#include "testing/case_name.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
-#include "host_double/host_double.h"
 #include "support/string_adapter.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "case_name.h"
+#include "recording_env.h"
 #include "support/env_console.h"
 #include "support/lng_tables.h"
-#include "support/recording_env.h"
 #include "support/timers.h"
+#include "testing/case_name.h"
 
 namespace {
 

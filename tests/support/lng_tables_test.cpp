@@ -4,8 +4,8 @@
 
 #include <cstdlib>
 
-#include "host_double/host_double.h"
 #include "support/encodings.h"
+#include "testing/host_double/host_double.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <cstdlib>
 #include <limits>
 
+#include "numeric_locale.h"
+#include "pieces.h"
 #include "support/dbf_text.h"
-#include "support/numeric_locale.h"
-#include "support/pieces.h"
 
 namespace {
 

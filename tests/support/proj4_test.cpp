@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
+#include "numeric_locale.h"
 #include "projection/proj4_string.h"
-#include "support/numeric_locale.h"
+#include "testing/case_name.h"
 
 namespace {
 

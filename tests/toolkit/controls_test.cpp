@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
 #include "framework/value_visitors.h"
+#include "testing/case_name.h"
 #include "toolkit/button_box.h"
 #include "toolkit/dropdown.h"
 #include "toolkit/event.h"

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "case_name.h"
 #include "framework/local_factory.h"
 #include "framework/referent.h"
 #include "framework/value_visitors.h"
-#include "host_double/host_double.h"
 #include "resources/text.h"
+#include "testing/case_name.h"
+#include "testing/host_double/host_double.h"
 #include "toolkit/view.h"
 
 namespace ox {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "case_name.h"
-#include "windows/code_page.h"
+#include "code_page.h"
+#include "testing/case_name.h"
 
 namespace {
 

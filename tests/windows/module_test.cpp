@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "framework/call.h"
-#include "framework/interfaces/dialogs.h"
-#include "framework/interfaces/services.h"
-#include "framework/polymorphic.h"
+#include "border/call.h"
+#include "border/interfaces/dialogs.h"
+#include "border/interfaces/services.h"
+#include "border/polymorphic.h"
 #include "framework/value_visitors.h"
-#include "host_double/host_double.h"
 #include "platform/platform.h"
+#include "testing/host_double/host_double.h"
 
 namespace {
 

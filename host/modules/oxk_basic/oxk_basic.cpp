@@ -1,4 +1,4 @@
-#include "host_api/oxk_basic.h"
+#include "border/host_api/oxk_basic.h"
 
 #include <filesystem>
 #include <string>

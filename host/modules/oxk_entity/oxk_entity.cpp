@@ -1,4 +1,4 @@
-#include "host_api/oxk_entity.h"
+#include "border/host_api/oxk_entity.h"
 
 #include "project/scene_updates.h"
 

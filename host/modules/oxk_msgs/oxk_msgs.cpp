@@ -1,4 +1,4 @@
-#include "host_api/oxk_msgs.h"
+#include "border/host_api/oxk_msgs.h"
 
 #include "session/border.h"
 #include "session/messages.h"

@@ -1,4 +1,4 @@
-#include "host_api/oxk_prg.h"
+#include "border/host_api/oxk_prg.h"
 
 #include <new>
 

@@ -1,4 +1,4 @@
-#include "host_api/oxk_prj.h"
+#include "border/host_api/oxk_prj.h"
 
 #include "project/project.h"
 

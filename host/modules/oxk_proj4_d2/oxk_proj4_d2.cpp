@@ -1,7 +1,7 @@
 /// The C functions of the projection module: texts come in wide and go out through adapters, lines are
 /// `polyline`s behind "pv", and what cannot be answered through the function is left in the host's core.
 
-#include "host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_proj4_d2.h"
 
 #include <iostream>
 #include <memory>

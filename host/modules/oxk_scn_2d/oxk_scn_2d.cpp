@@ -1,4 +1,4 @@
-#include "host_api/oxk_scn_2d.h"
+#include "border/host_api/oxk_scn_2d.h"
 
 #include "project/scene_updates.h"
 #include "session/border.h"

@@ -19,5 +19,5 @@ ox_module_layer(platform
     posix/pixels.cpp
     posix/resources.cpp
     ${embedded}
-  LINK ${CMAKE_DL_LIBS})
+  LINK ox_border ox_texts ${CMAKE_DL_LIBS})
 target_include_directories(ox_platform PRIVATE ${CMAKE_CURRENT_BINARY_DIR})

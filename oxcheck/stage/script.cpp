@@ -1,0 +1,43 @@
+#include "oxcheck/stage/script.h"
+
+#include <sstream>
+
+namespace oxcheck::script {
+
+using host_double::host;
+
+void set_stage(int language) {
+    host_double::reset();
+    host().language = language;
+    host().scenes_refuse = true;
+    host().add(L"Line 1", L"+proj=longlat +datum=WGS84", {{37, 55}, {38, 56}});
+    host().add(L"Line 2", L"+proj=utm +zone=37 +datum=WGS84", {{400000, 6100000}, {410000, 6200000}});
+    host().add(L"Plan", L"+proj=longlat +datum=WGS84").profile = false;
+    host().add(L"Line 3", L"");
+    host().add(L"Sketch", L"").has_data = false;
+    host().add(L"Line 4", L"+proj=utm +zone=38 +datum=WGS84", {{400000, 6300000}, {420000, 6310000}});
+    host().files[opened_file] = L"+proj=utm +zone=39 +datum=WGS84";
+    host().crs[L"EPSG:4326"] = L"+proj=longlat +datum=WGS84 +no_defs";
+    host().favourites = {{L"first", L"+proj=longlat +datum=WGS84"}, {L"second", L"+proj=utm +zone=37"}};
+}
+
+std::string describe_host() {
+    using host_double::narrow;
+    std::ostringstream text;
+    for (const auto& scene : host().scenes) {
+        text << narrow(scene->caption) << ": " << narrow(scene->pj4);
+        for (const auto& [x, y] : scene->pv) text << " (" << x << " " << y << ")";
+        text << "\n";
+    }
+    for (const auto& [caption, pj4] : host().favourites)
+        text << "favourite " << narrow(caption) << ": " << narrow(pj4) << "\n";
+    for (const auto& [path, pj4] : host().files)
+        text << "file " << narrow(path) << ": " << narrow(pj4) << "\n";
+    for (const auto* said : {&host().messages, &host().errors, &host().questions})
+        for (const auto& line : *said) text << "said " << narrow(line) << "\n";
+    for (const double fraction : host().progress) text << "progress " << fraction << "\n";
+    for (const std::string& line : host().log) text << line << "\n";
+    return text.str();
+}
+
+}  // namespace oxcheck::script

@@ -1,0 +1,15 @@
+# basic_resources(FILE): writes the resource script of the double's basic module: the texts and bitmaps of
+# the stand-alone host (texts without a terminating zero, as most modules store them), and pictures.rc.
+function(basic_resources script)
+  set(folder ${CMAKE_SOURCE_DIR}/host/resources)
+  file(STRINGS ${folder}/strings.txt lines ENCODING UTF-8 REGEX "^[0-9]")
+  list(TRANSFORM lines REPLACE "^([0-9]+)\t(.*)$" "  \\1, \"\\2\"\n")
+  string(CONCAT content "#pragma code_page(65001)\nLANGUAGE 0, 0\nSTRINGTABLE\nBEGIN\n" ${lines} "END\n")
+  file(GLOB bitmaps ${folder}/bitmap_*.bmp)
+  foreach(bitmap ${bitmaps})
+    string(REGEX REPLACE "^.*_([0-9]+)\\.bmp$" "\\1" id ${bitmap})
+    string(APPEND content "${id} BITMAP \"${bitmap}\"\n")
+  endforeach()
+  string(APPEND content "#include \"testing/host_double/pictures.rc\"\n")
+  file(GENERATE OUTPUT ${script} CONTENT "${content}")
+endfunction()
