@@ -6,8 +6,8 @@
 ///
 ///     struct label_impl : binding<label_impl, label> {
 ///         virtual bool enabled() { return true; }
-///         virtual void visit_caption(custom_pointer string_visitor) { (void)string_visitor; }
-///         virtual void attach_view(custom_pointer view) { (void)view; }
+///         virtual void visit_caption(custom_pointer /*string_visitor*/) {}
+///         virtual void attach_view(custom_pointer /*view*/) {}
 ///         using table = operations<&label_impl::enabled, &label_impl::visit_caption,
 ///                                  &label_impl::attach_view>;
 ///     };
@@ -19,19 +19,18 @@
 #include <cstring>
 
 #include "border/custom_pointer.h"
+#include "border/fault.h"
 #include "border/interface_name.h"
+#include "border/operations.h"
 
 namespace ox {
 
-/// The operations of an interface in the order of its table, slot 1 onward. An operation that nobody
-/// uses may stand in several places.
-template <auto... Operations>
-struct operations {
-    static constexpr std::size_t count = sizeof...(Operations);
-};
-
-/// Tag of the host's interfaces that are called by slot and never asked for by name.
+/// Tag of the host's interfaces that are called by slot and never asked for by name; such an interface
+/// carries a `label`, for messages.
 struct nameless {};
+
+template <class I, class Tag = nameless>
+struct binding;
 
 /// What every binding answers before its own operations.
 struct queryable {
@@ -46,39 +45,34 @@ protected:
 
 namespace detail {
 
-template <class Member>
-struct signature;
+/// What messages call the interface that `I` binds.
+template <class I, class Tag>
+constexpr const char* label_of(const binding<I, Tag>*) {
+    if constexpr (requires { Tag::name; })
+        return Tag::name.c_str();
+    else
+        return I::label;
+}
+template <class I>
+constexpr const char* interface_label() {
+    return label_of(static_cast<const I*>(nullptr));
+}
 
-template <class C, class R, class... A>
-struct signature<R (C::*)(A...)> {
-    using owner = C;
-    using result = R;
-    using function = R (*)(const void* table, void* object, A...);
-};
-
-/// The plain function behind one table slot. No exception crosses the border: an operation that
-/// throws answers its type's empty value.
+/// The plain function behind one table slot.
 template <class I, auto Operation, class = decltype(Operation)>
 struct entry;
 
 template <class I, auto Operation, class C, class R, class... A>
 struct entry<I, Operation, R (C::*)(A...)> {
     static R call(const void*, void* object, A... arguments) noexcept {
-        try {
-            return (static_cast<I*>(object)->*Operation)(arguments...);
-        } catch (...) {
-            return R();
-        }
+        return at_border(interface_label<I>(), slot_of<Operation>,
+                         [&] { return (static_cast<I*>(object)->*Operation)(arguments...); });
     }
 };
 
 template <class I>
 custom_pointer polymorphic_entry(const void*, void* object) noexcept {
-    try {
-        return static_cast<I*>(object)->polymorphic();
-    } catch (...) {
-        return {};
-    }
+    return at_border(interface_label<I>(), 0, [&] { return static_cast<I*>(object)->polymorphic(); });
 }
 
 /// The one entry of every polymorphic table.
@@ -86,12 +80,13 @@ inline void query_entry(const void*, void* object, const char* name, const void*
                         void** object_out) noexcept {
     *table_out = nullptr;
     *object_out = nullptr;
-    try {
+    const bool answered = at_border("polymorphic", 0, [&] {
         if (name) static_cast<queryable*>(object)->query(name, table_out, object_out);
-    } catch (...) {
-        *table_out = nullptr;
-        *object_out = nullptr;
-    }
+        return true;
+    });
+    if (answered) return;
+    *table_out = nullptr;
+    *object_out = nullptr;
 }
 
 using query_function = void (*)(const void*, void*, const char*, const void**, void**) noexcept;
@@ -116,7 +111,7 @@ constexpr slots<First, Rest...> make_slots(First first, Rest... rest) {
 }
 
 template <class I, auto... Operations>
-constexpr auto make_table(operations<Operations...>) {
+constexpr auto make_table(operation_list<Operations...>) {
     constexpr auto table = make_slots(&polymorphic_entry<I>, &entry<I, Operations>::call...);
     static_assert(sizeof(table) == (1 + sizeof...(Operations)) * sizeof(void*));
     return table;
@@ -144,7 +139,7 @@ custom_pointer make_pointer(I& object) {
 }
 
 /// Base of the binding class `I` of the interface `Tag`.
-template <class I, class Tag = nameless>
+template <class I, class Tag>
 struct binding : queryable {
     void query(const char* name, const void** table_out, void** object_out) override {
         if constexpr (requires { Tag::name; }) {

@@ -11,19 +11,6 @@ namespace ox {
 
 namespace detail {
 
-template <auto A, auto B>
-constexpr bool same_operation =
-    std::is_same_v<std::integral_constant<decltype(A), A>, std::integral_constant<decltype(B), B>>;
-
-/// Table slot of an operation within the list of its interface; slot 0 is `polymorphic`.
-template <auto Operation, auto... All>
-constexpr std::size_t slot_of(operations<All...>) {
-    std::size_t slot = 0;
-    bool found = false;
-    ((found = found || (++slot, same_operation<Operation, All>)), ...);
-    return found ? slot : 0;
-}
-
 template <class Function>
 Function function_at(custom_pointer p, std::size_t slot) {
     return static_cast<const Function*>(p.table)[slot];
@@ -36,7 +23,7 @@ Function function_at(custom_pointer p, std::size_t slot) {
 template <auto Operation, class... A>
 auto call(custom_pointer target, A&&... arguments) {
     using signature = detail::signature<decltype(Operation)>;
-    constexpr auto slot = detail::slot_of<Operation>(typename signature::owner::table{});
+    constexpr auto slot = slot_of<Operation>;
     static_assert(slot > 0, "the operation stands in the table of the interface that declares it");
     using result = typename signature::result;
     if (!target) return result();

@@ -9,9 +9,7 @@ namespace ox {
 struct polymorphic_next {
     polymorphic_next* next = nullptr;
     /// The query of this link's interface alone.
-    virtual void query_own(const char* name, const void** table_out, void** object_out) {
-        (void)name, (void)table_out, (void)object_out;
-    }
+    virtual void query_own(const char* /*name*/, const void** /*table_out*/, void** /*object_out*/) {}
 
 protected:
     ~polymorphic_next() = default;

@@ -15,7 +15,7 @@ inline constexpr const wchar_t* localizer_category = L"/localizer";
 
 /// Called by the host once per factory that the module reported. [module implements]
 struct service_factory_impl : binding<service_factory_impl, service_factory> {
-    virtual void create(custom_pointer context, custom_pointer registry) { (void)context, (void)registry; }
+    virtual void create(custom_pointer /*context*/, custom_pointer /*registry*/) {}
     using table = operations<&service_factory_impl::create>;
 };
 
@@ -23,21 +23,19 @@ struct service_factory_impl : binding<service_factory_impl, service_factory> {
 /// [host implements]
 struct bundle_context_impl : binding<bundle_context_impl, bundle_context> {
     virtual std::size_t reserved() { return 0; }
-    virtual void visit_registry(custom_pointer registry_visitor) { (void)registry_visitor; }
+    virtual void visit_registry(custom_pointer /*registry_visitor*/) {}
     using table = operations<&bundle_context_impl::reserved, &bundle_context_impl::visit_registry>;
 };
 
 /// Services by category. Its polymorphic also answers the service visitors through which a module
 /// publishes. [host implements]
 struct service_registry_impl : binding<service_registry_impl, service_registry> {
-    virtual void visit(const wchar_t* key, custom_pointer service_visitor) {
-        (void)key, (void)service_visitor;
-    }
+    virtual void visit(const wchar_t* /*key*/, custom_pointer /*service_visitor*/) {}
     using table = operations<&service_registry_impl::visit>;
 };
 
 struct service_registry_visitor_impl : binding<service_registry_visitor_impl, service_registry_visitor> {
-    virtual void visit_registry(custom_pointer registry) { (void)registry; }
+    virtual void visit_registry(custom_pointer /*registry*/) {}
     using table = operations<&service_registry_visitor_impl::visit_registry>;
 };
 
@@ -48,7 +46,8 @@ struct service_visitor_impl : binding<service_visitor_impl, service_visitor> {
 
 /// Reports the factories of a bundle. [host implements]
 struct factory_visitor_impl : binding<factory_visitor_impl> {
-    virtual void visit(const wchar_t* key, custom_pointer factory) { (void)key, (void)factory; }
+    static constexpr const char* label = "factory visitor";
+    virtual void visit(const wchar_t* /*key*/, custom_pointer /*factory*/) {}
     using table = operations<&factory_visitor_impl::visit>;
 };
 
@@ -57,35 +56,26 @@ struct factory_visitor_impl : binding<factory_visitor_impl> {
 /// Takes over the lookup of a module's own texts and pictures, ids above 0. [host implements]
 struct localizer_impl : binding<localizer_impl, localizer> {
     virtual custom_pointer referent() { return {}; }
-    virtual bool visit_string(std::uint32_t id, custom_pointer string_visitor) {
-        (void)id, (void)string_visitor;
-        return false;
-    }
-    virtual void visit_bitmap(std::uint32_t id, custom_pointer bytes_visitor) {
-        (void)id, (void)bytes_visitor;
-    }
-    virtual void visit_masked_bitmap(std::uint32_t id, custom_pointer masked_bitmap_visitor) {
-        (void)id, (void)masked_bitmap_visitor;
-    }
+    virtual bool visit_string(std::uint32_t /*id*/, custom_pointer /*string_visitor*/) { return false; }
+    virtual void visit_bitmap(std::uint32_t /*id*/, custom_pointer /*bytes_visitor*/) {}
+    virtual void visit_masked_bitmap(std::uint32_t /*id*/, custom_pointer /*masked_bitmap_visitor*/) {}
     using table = operations<&localizer_impl::referent, &localizer_impl::visit_string,
                              &localizer_impl::visit_bitmap, &localizer_impl::visit_masked_bitmap>;
 };
 
 /// Hands out the localizer of the module that the context identifies. [host implements]
 struct localizer_service_impl : binding<localizer_service_impl, localizer_service> {
-    virtual void visit_localizer(custom_pointer localizer_visitor, custom_pointer context) {
-        (void)localizer_visitor, (void)context;
-    }
+    virtual void visit_localizer(custom_pointer /*localizer_visitor*/, custom_pointer /*context*/) {}
     using table = operations<&localizer_service_impl::visit_localizer>;
 };
 
 struct localizer_service_visitor_impl : binding<localizer_service_visitor_impl, localizer_service_visitor> {
-    virtual void visit_service(custom_pointer localizer_service) { (void)localizer_service; }
+    virtual void visit_service(custom_pointer /*localizer_service*/) {}
     using table = operations<&localizer_service_visitor_impl::visit_service>;
 };
 
 struct localizer_visitor_impl : binding<localizer_visitor_impl, localizer_visitor> {
-    virtual void visit_localizer(custom_pointer localizer) { (void)localizer; }
+    virtual void visit_localizer(custom_pointer /*localizer*/) {}
     using table = operations<&localizer_visitor_impl::visit_localizer>;
 };
 

@@ -30,7 +30,7 @@ std::wstring folded(const std::string& text) {
 
 /// The shown controls in the group of that caption.
 void collect(node& from, node_kind kind, std::string_view group, bool inside, std::vector<node*>& found) {
-    inside = inside || (from.kind() == node_kind::group && from.state().caption == group);
+    inside = inside || (from.kind() == node_kind::groupbox && from.state().caption == group);
     if (inside && from.kind() == kind) found.push_back(&from);
     for (const auto& child : from.children())
         if (child->shown()) collect(*child, kind, group, inside, found);
@@ -44,14 +44,14 @@ std::vector<node*> in_group(dialog_hands& in, node_kind kind, std::string_view g
 
 /// The first drop-down list of a group.
 node& list_of(dialog_hands& in, std::string_view group) {
-    const auto found = in_group(in, node_kind::choice, group);
+    const auto found = in_group(in, node_kind::dropdown, group);
     if (found.empty()) throw failure(exit_code::internal, "no list of " + std::string(group));
     return *found.front();
 }
 
 std::string numbers_of(dialog_hands& in, std::string_view group) {
     std::string line;
-    for (node* each : in_group(in, node_kind::number, group))
+    for (node* each : in_group(in, node_kind::floating_input, group))
         line += (line.empty() ? "" : ", ") + number_text(each->state().value);
     return line;
 }
@@ -86,7 +86,7 @@ using lines = std::vector<std::string>;
 
 std::string asked_parameters(dialog_hands& in) {
     std::string line;
-    for (node* each : in_group(in, node_kind::number, plug_in_text::projection()))
+    for (node* each : in_group(in, node_kind::floating_input, plug_in_text::projection()))
         line += (line.empty() ? "(" : ", ") + each->name();
     return line.empty() ? line : line + ')';
 }

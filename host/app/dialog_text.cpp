@@ -13,30 +13,30 @@ class writer {
 public:
     void write(node& of) {
         switch (of.kind()) {
-            case node_kind::group:
+            case node_kind::groupbox:
                 line(of.state().caption);
                 ++depth_;
                 write_children(of);
                 --depth_;
                 break;
-            case node_kind::choice:
+            case node_kind::dropdown:
                 write_choice(of);
                 break;
-            case node_kind::number:
+            case node_kind::floating_input:
                 line(of.name() + ": " + number_text(of.state().value) +
                      (of.state().read_only || !of.state().enabled ? "  (shown)" : ""));
                 break;
             case node_kind::input:
                 line(of.name() + ": " + of.state().text);
                 break;
-            case node_kind::output:
+            case node_kind::multiline_output:
                 write_lines(of.state().text);
                 break;
             case node_kind::button:
-            case node_kind::tool:
+            case node_kind::action_tool:
                 line('<' + of.state().caption + '>' + (of.state().enabled ? "" : "  (off)"));
                 break;
-            case node_kind::table:
+            case node_kind::outline:
                 write_rows(*of.rows());
                 break;
             case node_kind::label:
@@ -91,13 +91,13 @@ private:
 
     /// Such a label is written with its control. Headings of columns are part of their controls' names.
     static bool captions_a_control(node& label) {
-        if (!label.parent() || label.parent()->kind() != node_kind::grid) return false;
+        if (!label.parent() || label.parent()->kind() != node_kind::grid_layout) return false;
         for (const auto& each : label.parent()->children()) {
             const bool beside = each->row() == label.row() && each->column() > label.column();
             const bool below =
                 each->column() == label.column() && each->row() > label.row() && label.row() == 0;
             if ((beside || below) && each->kind() != node_kind::label && each->kind() != node_kind::button &&
-                each->kind() != node_kind::grid)
+                each->kind() != node_kind::grid_layout)
                 return true;
         }
         return false;

@@ -34,7 +34,7 @@ dialog_act choosing(const std::string& given) {
 }
 
 void choose_favourite(dialog_hands& in, std::uint32_t number) {
-    shell::table_model& favourites = *in.only(shell::node_kind::table).rows();
+    shell::table_model& favourites = *in.only(shell::node_kind::outline).rows();
     if (number == 0 || number > favourites.row_count())
         throw failure(exit_code::nothing_done, "no favourite " + std::to_string(number) + " among the " +
                                                    std::to_string(favourites.row_count()));

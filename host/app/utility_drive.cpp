@@ -29,7 +29,7 @@ void set_target(dialog_hands& in, headless::scripted_user& user, const target& t
 
 /// The rows of the table are the listed scenes; both are in project order.
 void check_scenes(dialog_hands& in, const std::vector<scene*>& listed, const std::vector<scene*>& wanted) {
-    shell::table_model& table = *in.only(node_kind::table).rows();
+    shell::table_model& table = *in.only(node_kind::outline).rows();
     if (table.row_count() != listed.size())
         throw headless::impossible("the dialog lists " + std::to_string(table.row_count()) + " scenes, not " +
                                    std::to_string(listed.size()));

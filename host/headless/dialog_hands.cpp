@@ -22,7 +22,8 @@ std::string joined(const std::vector<std::string>& names) {
 }
 
 bool is_control(const node& of) {
-    return of.kind() == node_kind::input || of.kind() == node_kind::number || of.kind() == node_kind::choice;
+    return of.kind() == node_kind::input || of.kind() == node_kind::floating_input ||
+           of.kind() == node_kind::dropdown;
 }
 
 /// Every shown node that `wanted` accepts, in reading order.
@@ -40,7 +41,7 @@ std::vector<node*> all(shell::open_dialog& in, const std::function<bool(node&)>&
 
 bool stands_in_group(node& of, std::string_view caption) {
     for (node* up = of.parent(); up; up = up->parent())
-        if (up->kind() == node_kind::group && up->state().caption == caption) return true;
+        if (up->kind() == node_kind::groupbox && up->state().caption == caption) return true;
     return false;
 }
 
@@ -98,7 +99,7 @@ node& dialog_hands::only(node_kind kind) {
 }
 
 node& dialog_hands::tool(std::string_view id) {
-    const auto tools = all(dialog_, [](node& n) { return n.kind() == node_kind::tool; });
+    const auto tools = all(dialog_, [](node& n) { return n.kind() == node_kind::action_tool; });
     const auto found = std::ranges::find(tools, id, &node::id);
     if (found != tools.end()) return **found;
     std::vector<std::string> ids;
@@ -125,26 +126,26 @@ void dialog_hands::type(std::string_view input, std::string_view text) {
 }
 
 void dialog_hands::choose(std::string_view choice, std::string_view item) {
-    change(find(node_kind::choice, choice), item);
+    change(find(node_kind::dropdown, choice), item);
 }
 
 void dialog_hands::set(std::string_view name, std::string_view value) { change(control(name), value); }
 
 void dialog_hands::enter(std::string_view number, double value) {
-    change(find(node_kind::number, number), number_text(value));
+    change(find(node_kind::floating_input, number), number_text(value));
 }
 
 void dialog_hands::change(node& control, std::string_view value) {
     const std::string called = in_quotes(control.name());
     if (!control.state().enabled || control.state().read_only)
         throw impossible(called + " cannot be changed here");
-    if (control.kind() == node_kind::choice) {
+    if (control.kind() == node_kind::dropdown) {
         const auto& items = control.state().items;
         const auto item = item_of(items, value);
         if (item == items.end())
             throw impossible(called + " has no item " + in_quotes(value) + "; it has " + joined(items));
         control.choose(static_cast<std::uint32_t>(item - items.begin()));
-    } else if (control.kind() == node_kind::number) {
+    } else if (control.kind() == node_kind::floating_input) {
         const auto number = parse_number(value);
         if (!number) throw impossible(called + ": " + in_quotes(value) + " is no number");
         const double low = control.state().minimum;
@@ -163,7 +164,7 @@ namespace {
 std::vector<node*> entries_of(node& menu) {
     std::vector<node*> entries;
     collect(
-        menu, [](node& n) { return n.kind() == node_kind::tool; }, entries);
+        menu, [](node& n) { return n.kind() == node_kind::action_tool; }, entries);
     return entries;
 }
 

@@ -23,7 +23,7 @@ open_dialog::open_dialog(std::string id, ox::custom_pointer docker, ox::custom_p
     : id_(std::move(id)),
       docker_(docker),
       button_box_(button_box),
-      root_(std::make_unique<node>(node_kind::grid, ox::call<&ox::docker_impl::element>(docker))) {
+      root_(std::make_unique<node>(node_kind::grid_layout, ox::call<&ox::docker_impl::element>(docker))) {
     ox::call<&ox::button_box_impl::attach_first_view>(button_box_,
                                                       ox::make_pointer<ox::element_view_slots>(*this));
 }

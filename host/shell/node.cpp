@@ -4,6 +4,7 @@
 #include <array>
 
 #include "border/interfaces/controls.h"
+#include "border/interfaces/outlines.h"
 #include "border/interfaces/tools.h"
 #include "shell/node_state.h"
 #include "shell/read_utf8.h"
@@ -15,7 +16,7 @@ namespace {
 using ox::call;
 
 bool is_control(node_kind kind) {
-    return kind == node_kind::input || kind == node_kind::number || kind == node_kind::choice;
+    return kind == node_kind::input || kind == node_kind::floating_input || kind == node_kind::dropdown;
 }
 
 struct menu_reader final : ox::context_menu_visitor_impl {
@@ -32,10 +33,20 @@ ox::custom_pointer menu_of(ox::custom_pointer button) {
 }  // namespace
 
 std::string_view name_of(node_kind kind) {
-    constexpr std::array<std::string_view, 14> names{"grid",   "stack",  "group",  "toolbar", "menu",
-                                                     "tools",  "tool",   "label",  "button",  "input",
-                                                     "number", "choice", "output", "table"};
-    return names[static_cast<std::size_t>(kind)];
+    switch (kind) {
+#define OX_ELEMENT(words, slot, caption) \
+    case node_kind::words:               \
+        return caption;
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
+        case node_kind::context_menu:
+            return "menu";
+        case node_kind::tool_set:
+            return "tools";
+        case node_kind::action_tool:
+            return "tool";
+    }
+    return {};
 }
 
 struct node::found_child {
@@ -49,20 +60,13 @@ struct node::found_child {
 /// Receives elements and tools and notes where they stand.
 class node::collector final : public ox::element_visitor_impl, public ox::tool_set_visitor_impl {
 public:
-    void grid_layout(ox::custom_pointer e) override { add(node_kind::grid, e); }
-    void stack_layout(ox::custom_pointer e) override { add(node_kind::stack, e); }
-    void input(ox::custom_pointer e) override { add(node_kind::input, e); }
-    void floating_input(ox::custom_pointer e) override { add(node_kind::number, e); }
-    void multiline_output(ox::custom_pointer e) override { add(node_kind::output, e); }
-    void button(ox::custom_pointer e) override { add(node_kind::button, e); }
-    void label(ox::custom_pointer e) override { add(node_kind::label, e); }
-    void outline(ox::custom_pointer e) override { add(node_kind::table, e); }
-    void dropdown(ox::custom_pointer e) override { add(node_kind::choice, e); }
-    void groupbox(ox::custom_pointer e) override { add(node_kind::group, e); }
-    void toolbar(ox::custom_pointer e) override { add(node_kind::toolbar, e); }
+#define OX_ELEMENT(words, slot, caption) \
+    void words(ox::custom_pointer e) override { add(node_kind::words, e); }
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
     void visit_tool_set(ox::custom_pointer set) override { add(node_kind::tool_set, set); }
     void visit_action_tool(const wchar_t* id, ox::custom_pointer tool) override {
-        add(node_kind::tool, tool, to_utf8(id));
+        add(node_kind::action_tool, tool, to_utf8(id));
     }
     std::size_t other() override { return 0; }
 
@@ -81,7 +85,7 @@ private:
 
 node::node(node_kind kind, ox::custom_pointer element, node* parent, std::string id)
     : kind_(kind), element_(element), parent_(parent), id_(std::move(id)) {
-    if (kind_ == node_kind::table)
+    if (kind_ == node_kind::outline)
         rows_ = std::make_unique<table_model>(element_);
     else
         attach(ox::make_pointer<ox::element_view_slots>(*this));
@@ -89,47 +93,32 @@ node::node(node_kind kind, ox::custom_pointer element, node* parent, std::string
 
 node::~node() {
     children_.clear();
-    if (kind_ != node_kind::table) attach({});
+    if (kind_ != node_kind::outline) attach({});
 }
 
+/// An outline has views of its own, which its table attaches.
 void node::attach(ox::custom_pointer view) {
     switch (kind_) {
-        case node_kind::grid:
-            return call<&ox::grid_layout_impl::attach_view>(element_, view);
-        case node_kind::stack:
-            return call<&ox::stack_layout_impl::attach_view>(element_, view);
-        case node_kind::group:
-            return call<&ox::groupbox_impl::attach_view>(element_, view);
-        case node_kind::toolbar:
-            return call<&ox::toolbar_impl::attach_view>(element_, view);
-        case node_kind::menu:
+#define OX_ELEMENT(words, slot, caption) \
+    case node_kind::words:               \
+        return call<&ox::words##_impl::attach_view>(element_, view);
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
+        case node_kind::context_menu:
             return call<&ox::context_menu_impl::attach_view>(element_, view);
         case node_kind::tool_set:
             return call<&ox::tool_set_impl::attach_view>(element_, view);
-        case node_kind::tool:
+        case node_kind::action_tool:
             return call<&ox::action_tool_impl::attach_view>(element_, view);
-        case node_kind::label:
-            return call<&ox::label_impl::attach_view>(element_, view);
-        case node_kind::button:
-            return call<&ox::button_impl::attach_view>(element_, view);
-        case node_kind::input:
-            return call<&ox::input_impl::attach_view>(element_, view);
-        case node_kind::number:
-            return call<&ox::floating_input_impl::attach_view>(element_, view);
-        case node_kind::choice:
-            return call<&ox::dropdown_impl::attach_view>(element_, view);
-        case node_kind::output:
-            return call<&ox::multiline_output_impl::attach_view>(element_, view);
-        case node_kind::table:
-            return;
     }
 }
 
 void node::changed() {
     stale_ = true;
     // Asking a menu for its entries makes new ones, so an open menu keeps those it has.
-    children_stale_ = children_stale_ || kind_ == node_kind::grid || kind_ == node_kind::stack ||
-                      kind_ == node_kind::group || kind_ == node_kind::toolbar;
+    children_stale_ = children_stale_ || kind_ == node_kind::grid_layout ||
+                      kind_ == node_kind::stack_layout || kind_ == node_kind::groupbox ||
+                      kind_ == node_kind::toolbar;
     if (on_changed) on_changed();
 }
 
@@ -152,26 +141,26 @@ const std::vector<std::unique_ptr<node>>& node::children() {
 std::vector<node::found_child> node::find_children() {
     collector reader;
     switch (kind_) {
-        case node_kind::grid:
+        case node_kind::grid_layout:
             for (reader.row = 0; reader.row < state().rows.size(); ++reader.row)
                 for (reader.column = 0; reader.column < state().columns.size(); ++reader.column)
                     call<&ox::grid_layout_impl::visit_cell>(
                         element_, static_cast<std::int32_t>(reader.column),
                         static_cast<std::int32_t>(reader.row), reader.elements());
             break;
-        case node_kind::stack: {
+        case node_kind::stack_layout: {
             const std::uint32_t count = call<&ox::stack_layout_impl::child_count>(element_);
             for (reader.row = 0; reader.row < count; ++reader.row)
                 call<&ox::stack_layout_impl::visit_child>(element_, reader.row, reader.elements());
             break;
         }
-        case node_kind::group:
+        case node_kind::groupbox:
             call<&ox::groupbox_impl::visit_content>(element_, reader.elements());
             break;
         case node_kind::toolbar:
             call<&ox::toolbar_impl::visit_tool_sets>(element_, reader.tools());
             break;
-        case node_kind::menu:
+        case node_kind::context_menu:
             call<&ox::context_menu_impl::visit_tool_sets>(element_, reader.tools());
             break;
         case node_kind::tool_set:
@@ -201,7 +190,7 @@ void node::read_children() {
 }
 
 node* node::neighbour(std::uint32_t column, std::uint32_t row) {
-    if (!parent_ || parent_->kind_ != node_kind::grid) return nullptr;
+    if (!parent_ || parent_->kind_ != node_kind::grid_layout) return nullptr;
     for (const auto& each : parent_->children())
         if (each->column_ == column && each->row_ == row) return each.get();
     return nullptr;
@@ -225,17 +214,17 @@ std::string node::name() {
     node* heading = controls > 1 ? neighbour(column_, 0) : nullptr;
     if (heading && heading->kind_ == node_kind::label) caption += ' ' + heading->state().caption;
     for (node* up = parent_; caption.empty() && up; up = up->parent_)
-        if (up->kind_ == node_kind::group) caption = up->state().caption;
+        if (up->kind_ == node_kind::groupbox) caption = up->state().caption;
     return caption;
 }
 
 bool node::shown() {
     if (!parent_) return true;
-    if (parent_->kind_ == node_kind::grid) {
+    if (parent_->kind_ == node_kind::grid_layout) {
         const node_state& grid = parent_->state();
         if (!grid.rows[row_].shown || !grid.columns[column_].shown) return false;
     }
-    if (parent_->kind_ == node_kind::stack && parent_->state().current != row_) return false;
+    if (parent_->kind_ == node_kind::stack_layout && parent_->state().current != row_) return false;
     return parent_->shown();
 }
 
@@ -243,7 +232,7 @@ bool node::click() {
     if (!state().enabled) return false;
     if (kind_ == node_kind::button)
         call<&ox::button_impl::click>(element_);
-    else if (kind_ == node_kind::tool)
+    else if (kind_ == node_kind::action_tool)
         call<&ox::action_tool_impl::click>(element_);
     else
         return false;
@@ -259,13 +248,13 @@ bool node::type(std::string_view text) {
 }
 
 bool node::enter(double value) {
-    if (kind_ != node_kind::number || !state().enabled || state().read_only) return false;
+    if (kind_ != node_kind::floating_input || !state().enabled || state().read_only) return false;
     stale_ = true;
     return call<&ox::floating_input_impl::set_value>(element_, value);
 }
 
 bool node::choose(std::uint32_t item) {
-    if (kind_ != node_kind::choice || !state().enabled || item >= state().items.size()) return false;
+    if (kind_ != node_kind::dropdown || !state().enabled || item >= state().items.size()) return false;
     stale_ = true;
     call<&ox::dropdown_impl::select>(element_, item);
     return true;
@@ -276,13 +265,13 @@ bool node::has_menu() { return kind_ == node_kind::button && menu_of(element_); 
 std::unique_ptr<node> node::open_menu() {
     const ox::custom_pointer menu =
         kind_ == node_kind::button && state().enabled ? menu_of(element_) : ox::custom_pointer{};
-    return menu ? std::make_unique<node>(node_kind::menu, menu) : nullptr;
+    return menu ? std::make_unique<node>(node_kind::context_menu, menu) : nullptr;
 }
 
 picture node::image() {
     return read_picture([this](ox::custom_pointer visitor) {
         if (kind_ == node_kind::button) call<&ox::button_impl::visit_image>(element_, visitor);
-        if (kind_ == node_kind::tool) call<&ox::action_tool_impl::visit_image>(element_, visitor);
+        if (kind_ == node_kind::action_tool) call<&ox::action_tool_impl::visit_image>(element_, visitor);
     });
 }
 

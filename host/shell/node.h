@@ -20,23 +20,17 @@
 
 namespace oxhost::shell {
 
+/// The kinds of element, and what stands in toolbars and menus.
 enum class node_kind {
-    grid,
-    stack,
-    group,
-    toolbar,
-    menu,
+#define OX_ELEMENT(words, slot, caption) words,
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
+    context_menu,
     tool_set,  ///< of a toolbar or menu
-    tool,
-    label,
-    button,
-    input,
-    number,
-    choice,
-    output,
-    table,
+    action_tool,
 };
 
+/// What messages call it.
 std::string_view name_of(node_kind kind);
 
 /// One row or column of a grid.

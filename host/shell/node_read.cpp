@@ -87,17 +87,17 @@ void read_output(ox::custom_pointer output, node_state& state) {
 node_state read_state(node_kind kind, ox::custom_pointer element) {
     node_state state;
     switch (kind) {
-        case node_kind::grid:
+        case node_kind::grid_layout:
             read_grid(element, state);
             break;
-        case node_kind::stack:
+        case node_kind::stack_layout:
             state.current = call<&ox::stack_layout_impl::current>(element);
             break;
-        case node_kind::group:
+        case node_kind::groupbox:
             state.caption = read_utf8<&ox::groupbox_impl::visit_caption>(element);
             state.hint = read_utf8<&ox::groupbox_impl::visit_second_text>(element);
             break;
-        case node_kind::tool:
+        case node_kind::action_tool:
             read_tool(element, state);
             break;
         case node_kind::label:
@@ -110,19 +110,19 @@ node_state read_state(node_kind kind, ox::custom_pointer element) {
         case node_kind::input:
             read_input(element, state);
             break;
-        case node_kind::number:
+        case node_kind::floating_input:
             read_number(element, state);
             break;
-        case node_kind::choice:
+        case node_kind::dropdown:
             read_choice(element, state);
             break;
-        case node_kind::output:
+        case node_kind::multiline_output:
             read_output(element, state);
             break;
         case node_kind::toolbar:
-        case node_kind::menu:
+        case node_kind::context_menu:
         case node_kind::tool_set:
-        case node_kind::table:
+        case node_kind::outline:
             break;
     }
     return state;

@@ -21,7 +21,7 @@ public:
         resource::visit_string(static_cast<std::int32_t>(caption_), string_visitor);
     }
     bool flag() override { return flag_; }
-    std::uint32_t value() override { return 0xFFFFFFFF; }
+    std::uint32_t value() override { return whole_value; }
     void attach(custom_pointer host) override { host_ = host; }
 
 protected:
@@ -59,7 +59,7 @@ public:
     }
     custom_pointer element() override { return make_pointer<grid_layout_impl>(dialog_->element()); }
     bool flag() override { return true; }
-    std::uint32_t value() override { return 0xFFFFFFFF; }
+    std::uint32_t value() override { return whole_value; }
 
 private:
     D* dialog_;

@@ -18,15 +18,19 @@ public:
     virtual void visit(custom_pointer element_visitor) = 0;
 };
 
-/// The interface as which an element presents itself, and the visitor slot of that kind.
-template <class Impl, auto Slot>
+/// The interface as which an element presents itself, and the visitor's operation for that kind.
+template <class Impl, auto Operation>
 struct kind {
     using interface = Impl;
-    static constexpr auto slot = Slot;
+    static constexpr auto operation = Operation;
 };
+
+/// Ends the list of kinds.
+struct no_kind {};
 
 template <class X, class Kind, class... Kinds>
 constexpr auto kind_among() {
+    static_assert(!std::is_same_v<Kind, no_kind>, "no kind of element");
     if constexpr (std::is_base_of_v<typename Kind::interface, X>)
         return Kind{};
     else
@@ -34,17 +38,11 @@ constexpr auto kind_among() {
 }
 
 template <class X>
-using kind_of = decltype(kind_among<X, kind<grid_layout_impl, &element_visitor_impl::grid_layout>,
-                                    kind<stack_layout_impl, &element_visitor_impl::stack_layout>,
-                                    kind<groupbox_impl, &element_visitor_impl::groupbox>,
-                                    kind<label_impl, &element_visitor_impl::label>,
-                                    kind<button_impl, &element_visitor_impl::button>,
-                                    kind<input_impl, &element_visitor_impl::input>,
-                                    kind<floating_input_impl, &element_visitor_impl::floating_input>,
-                                    kind<dropdown_impl, &element_visitor_impl::dropdown>,
-                                    kind<multiline_output_impl, &element_visitor_impl::multiline_output>,
-                                    kind<outline_impl, &element_visitor_impl::outline>,
-                                    kind<toolbar_impl, &element_visitor_impl::toolbar>>());
+using kind_of = decltype(kind_among<X,
+#define OX_ELEMENT(words, slot, caption) kind<words##_impl, &element_visitor_impl::words>,
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
+                                    no_kind>());
 
 /// Refers to an element that lives in its parent's storage.
 template <class X>
@@ -53,7 +51,7 @@ public:
     explicit generic_element_impl(X& element) : element_(&element) {}
     void visit(custom_pointer element_visitor) override {
         using kind = kind_of<X>;
-        call<kind::slot>(element_visitor, make_pointer<typename kind::interface>(*element_));
+        call<kind::operation>(element_visitor, make_pointer<typename kind::interface>(*element_));
     }
 
 private:

@@ -24,9 +24,8 @@ limits index_limits(custom_pointer p, std::size_t slot) {
     (void)p, (void)slot;
     if constexpr (std::is_same_v<I, ox::grid_layout_impl>) {
         const std::int64_t columns = ox::call<&I::column_count>(p), rows = ox::call<&I::row_count>(p);
-        const bool of_rows = slot == ox::detail::slot_of<&I::row_expands>(typename I::table{}) ||
-                             slot == ox::detail::slot_of<&I::row_value>(typename I::table{}) ||
-                             slot == ox::detail::slot_of<&I::row_shown>(typename I::table{});
+        const bool of_rows = slot == ox::slot_of<&I::row_expands> || slot == ox::slot_of<&I::row_value> ||
+                             slot == ox::slot_of<&I::row_shown>;
         return of_rows ? limits{rows, rows} : limits{columns, rows};
     } else if constexpr (std::is_same_v<I, ox::stack_layout_impl>) {
         return {ox::call<&I::child_count>(p), 0};
@@ -81,7 +80,8 @@ void ask_slot(custom_pointer p, std::size_t slot, R (C::*)(A...), [[maybe_unused
 }
 
 template <class I, auto... Operations>
-void ask_slots(custom_pointer p, custom_pointer neighbour, std::size_t count, ox::operations<Operations...>) {
+void ask_slots(custom_pointer p, custom_pointer neighbour, std::size_t count,
+               ox::operation_list<Operations...>) {
     std::size_t slot = 0;
     ((++slot <= count ? ask_slot<I>(p, slot, Operations, neighbour) : void()), ...);
 }

@@ -22,12 +22,13 @@ using ox::custom_pointer;
 template <class Use>
 constexpr void with_all_kinds(Use&& use) {
     use.template operator()<
-        ox::docker_impl, ox::button_box_impl, ox::grid_layout_impl, ox::stack_layout_impl, ox::groupbox_impl,
-        ox::label_impl, ox::button_impl, ox::input_impl, ox::floating_input_impl, ox::dropdown_impl,
-        ox::multiline_output_impl, ox::outline_impl, ox::outline_checks_impl, ox::string_outline_column_impl,
-        ox::bitmap_outline_column_impl, ox::toolbar_impl, ox::context_menu_impl, ox::tool_set_impl,
-        ox::action_tool_impl, ox::utility_service_impl, ox::modal_dialog_service_impl, ox::utility_impl,
-        ox::modal_dialog_impl, ox::service_factory_impl, ox::referent_impl>();
+#define OX_ELEMENT(words, slot, caption) ox::words##_impl,
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
+        ox::docker_impl, ox::button_box_impl, ox::outline_checks_impl, ox::string_outline_column_impl,
+        ox::bitmap_outline_column_impl, ox::context_menu_impl, ox::tool_set_impl, ox::action_tool_impl,
+        ox::utility_service_impl, ox::modal_dialog_service_impl, ox::utility_impl, ox::modal_dialog_impl,
+        ox::service_factory_impl, ox::referent_impl>();
 }
 
 /// Name of the interface that a binding class binds.

@@ -14,17 +14,10 @@ struct element_sink final : ox::element_visitor_impl, lent_object {
     void add(custom_pointer pointer) {
         if (!late("an element visitor")) all.push_back(make_element<I>(pointer));
     }
-    void grid_layout(custom_pointer p) override { add<ox::grid_layout_impl>(p); }
-    void stack_layout(custom_pointer p) override { add<ox::stack_layout_impl>(p); }
-    void input(custom_pointer p) override { add<ox::input_impl>(p); }
-    void floating_input(custom_pointer p) override { add<ox::floating_input_impl>(p); }
-    void multiline_output(custom_pointer p) override { add<ox::multiline_output_impl>(p); }
-    void button(custom_pointer p) override { add<ox::button_impl>(p); }
-    void label(custom_pointer p) override { add<ox::label_impl>(p); }
-    void outline(custom_pointer p) override { add<ox::outline_impl>(p); }
-    void dropdown(custom_pointer p) override { add<ox::dropdown_impl>(p); }
-    void groupbox(custom_pointer p) override { add<ox::groupbox_impl>(p); }
-    void toolbar(custom_pointer p) override { add<ox::toolbar_impl>(p); }
+#define OX_ELEMENT(words, slot, caption) \
+    void words(custom_pointer p) override { add<ox::words##_impl>(p); }
+#include "border/element_kinds.inc"
+#undef OX_ELEMENT
 };
 
 class walker {

@@ -55,7 +55,7 @@ TEST_F(Shell, FindsTheSixFactoriesAndTheUtility) {
 TEST_F(Shell, ShowsTheUtilityAsNodes) {
     in_utility([](dialog_hands& in) {
         EXPECT_EQ(in.dialog().caption(), "Batch Project Sections");
-        table_model& rows = *in.only(node_kind::table).rows();
+        table_model& rows = *in.only(node_kind::outline).rows();
         ASSERT_EQ(rows.row_count(), 4u);
         const auto text = rows.column_of("oxk_scn2d_prf_reproj_projection_column");
         EXPECT_EQ(rows.columns()[0].caption, "Sections");
@@ -77,7 +77,7 @@ TEST_F(Shell, ShowsTheUtilityAsNodes) {
 
 TEST_F(Shell, HearsOfChangesThroughItsViews) {
     in_utility([](dialog_hands& in) {
-        table_model& rows = *in.only(node_kind::table).rows();
+        table_model& rows = *in.only(node_kind::outline).rows();
         int refreshes = 0;
         rows.on_refresh = [&] { ++refreshes; };
         rows.select(0, true);
@@ -87,7 +87,7 @@ TEST_F(Shell, HearsOfChangesThroughItsViews) {
         EXPECT_FALSE(rows.checked(1));
         EXPECT_EQ(refreshes, 1);
 
-        node& description = in.only(node_kind::output);
+        node& description = in.only(node_kind::multiline_output);
         const std::string before = description.state().text;
         in.choose_entry(in.menu_button(), 1);
         EXPECT_NE(description.state().text, before);
@@ -106,14 +106,14 @@ TEST_F(Shell, ServesDialogsOverDialogs) {
     });
     user_.in_dialog("ox_common_projection_dialog", [&](dialog_hands& in) {
         seen.push_back(in.dialog().caption());
-        EXPECT_FALSE(in.find(node_kind::choice, "Type").state().items.empty());
+        EXPECT_FALSE(in.find(node_kind::dropdown, "Type").state().items.empty());
         EXPECT_THROW(in.control("Zone"), impossible) << "nothing of it is shown yet";
         in.click("EPSG");
         EXPECT_EQ(in.control("Type").state().text, "Geographic");
         in.press(button_role::accept);
     });
     in_utility([&](dialog_hands& in) {
-        node& description = in.only(node_kind::output);
+        node& description = in.only(node_kind::multiline_output);
         const std::string before = description.state().text;
         in.click("Projection");
         EXPECT_NE(description.state().text, before);
