@@ -3,6 +3,7 @@
 #include "border/call.h"
 #include "border/linkage.h"
 #include "framework/factories.h"
+#include "platform/platform.h"
 
 namespace ox {
 
@@ -19,13 +20,17 @@ constexpr detail::slots<detail::query_function> context_table{&no_context};
 custom_pointer context(const void*, void* object) noexcept { return {&context_table, object}; }
 
 void visit_factories(const void*, void*, const custom_pointer& visitor) noexcept {
-    try {
-        visit_module_factories(visitor);
-    } catch (...) {  // nothing leaves the border
-    }
+    at_border("bundle", 1, [&] { visit_module_factories(visitor); });
 }
 
 void reserved() noexcept {}
+
+void tell_host(const border_fault& fault) {
+    using function = void(const char*, std::uint32_t, const char*);
+    if (const auto tell = platform::host_function<function>("oxk_msgs", "ox_border_fault"))
+        tell(fault.place, static_cast<std::uint32_t>(fault.slot), fault.what);
+}
+[[maybe_unused]] const bool listening = (on_border_fault = &tell_host, true);
 
 constexpr auto bundle_table =
     detail::make_slots(&context, &visit_factories, &reserved, &reserved, &reserved, &reserved);

@@ -16,6 +16,7 @@
 #include "border/interfaces/tools.h"
 #include "border/interfaces/values.h"
 #include "border/polymorphic.h"
+#include "testing/border_faults.h"
 
 namespace ox {
 namespace {
@@ -102,9 +103,12 @@ struct thrower : label_impl {
 };
 
 TEST(Border, NoExceptionLeavesATable) {
+    testing_border::expected_faults faults;
     thrower label;
     EXPECT_FALSE(call<&label_impl::enabled>(make_pointer<label_impl>(label)));
     EXPECT_EQ(polymorphic_of(make_pointer<label_impl>(label)), custom_pointer{});
+    EXPECT_EQ(faults.seen, (std::vector<std::string>{"ox_label_interface_2, slot 1: inside",
+                                                     "ox_label_interface_2, slot 0: inside"}));
 }
 
 // ---- A neighbour that was built apart: a label as an array of plain functions ----
