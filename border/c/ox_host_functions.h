@@ -138,3 +138,7 @@ OX_HOST_FUNCTION void* ox_progress_create(int options);
 /// `fraction` of the work that is done, 0 to 1. The answer may be ignored.
 OX_HOST_FUNCTION bool ox_progress_report(void* progress, double fraction);
 OX_HOST_FUNCTION void ox_progress_destroy(void* progress);
+
+/// Optional; look it up by name. Tells the host of an exception that ended at the border of a bundle: which
+/// interface, which slot of its table, and the exception's words.
+OX_HOST_FUNCTION void ox_border_fault(const char* place, uint32_t slot, const char* what);

@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "border/c/ox_pointer.h"
-#include "framework/call.h"
+#include "border/call.h"
 
 namespace ox::pin {
 
@@ -46,7 +46,7 @@ using entry_of = typename entry<decltype(Operation)>::type;
 template <class Operations>
 struct listing;
 template <auto... All>
-struct listing<operations<All...>> {
+struct listing<operation_list<All...>> {
     static constexpr std::size_t count = sizeof...(All);
     using entries = std::tuple<entry_of<All>...>;
     template <auto Operation>
@@ -57,9 +57,7 @@ using listing_of = listing<typename I::table>;
 
 /// Slot of an operation; 0 when it does not stand in exactly one.
 template <class I, auto Operation>
-constexpr std::size_t slot_of = listing_of<I>::template places<Operation> == 1
-                                    ? detail::slot_of<Operation>(typename I::table{})
-                                    : 0;
+constexpr std::size_t slot_of = listing_of<I>::template places<Operation> == 1 ? ox::slot_of<Operation> : 0;
 
 // ---- The C listing ----------------------------------------------------------------------------------------
 

@@ -5,13 +5,13 @@
 #include <type_traits>
 
 #include "border/c/ox_linkage.h"
-#include "host_api/oxk_basic.h"
-#include "host_api/oxk_entity.h"
-#include "host_api/oxk_msgs.h"
-#include "host_api/oxk_prg.h"
-#include "host_api/oxk_prj.h"
-#include "host_api/oxk_proj4_d2.h"
-#include "host_api/oxk_scn_2d.h"
+#include "border/host_api/oxk_basic.h"
+#include "border/host_api/oxk_entity.h"
+#include "border/host_api/oxk_msgs.h"
+#include "border/host_api/oxk_prg.h"
+#include "border/host_api/oxk_prj.h"
+#include "border/host_api/oxk_proj4_d2.h"
+#include "border/host_api/oxk_scn_2d.h"
 
 // What the C header includes, before it is declared within a namespace.
 #include <stdbool.h>
@@ -83,3 +83,4 @@ OX_PIN_FUNCTION(ox_yesno_wmessage);
 OX_PIN_FUNCTION(ox_progress_create);
 OX_PIN_FUNCTION(ox_progress_report);
 OX_PIN_FUNCTION(ox_progress_destroy);
+OX_PIN_FUNCTION(ox_border_fault);
