@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 
 namespace oxhost {
@@ -32,7 +33,7 @@ int whole_number(const tsv_row& row, std::string_view column) {
 }
 
 catalogue_record begin_record(const tsv_row& row, std::initializer_list<const char*> copied) {
-    catalogue_record record{row.place, row["source"], {}};
+    catalogue_record record{row.place, {}, row["source"], {}, {}};
     for (const char* column : copied) record.fields[column] = row[column];
     return record;
 }
@@ -84,6 +85,9 @@ catalogue_record datum_record(const tsv_row& row, const std::vector<catalogue_re
                                              [](const catalogue_record& e) { return e.text("ELLPS_NAME"); });
     if (ellipsoid == ellipsoids.end()) refuse(row, "no ellipsoid \"" + row["ellipsoid"] + "\"");
     record.fields["ELLPS_ID"] = ellipsoid->text("ELLPS_ID");
+    record.also = row["also"];
+    std::istringstream codes(row["systems"]);
+    for (std::string code; codes >> code;) record.systems.push_back("EPSG:" + code);
     return record;
 }
 

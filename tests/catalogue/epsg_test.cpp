@@ -116,7 +116,7 @@ TEST(CatalogueDatums, NumbersAreThoseOfTheEpsgOperation) {
     }
 }
 
-TEST(CatalogueDatums, EllipsoidIsThatOfTheEpsgOperation) {
+TEST(CatalogueDatums, EllipsoidAndSystemAreThoseOfTheEpsgOperation) {
     for (std::size_t row = 0; row < built().datums.size(); ++row) {
         const auto& datum = built().datums[row];
         const auto code = code_after("EPSG:", built().sources.datums[row].source);
@@ -129,6 +129,15 @@ TEST(CatalogueDatums, EllipsoidIsThatOfTheEpsgOperation) {
         const auto& ellps = ellps_of(datum);
         EXPECT_NEAR(ellps.a, a, millimetre) << datum.name;
         EXPECT_NEAR(ellps.has_b ? ellps.b : ellps.a * (1 - 1 / ellps.rf), b, millimetre) << datum.name;
+
+        const auto datum_name = [](const PJ* of) {
+            return std::string(
+                proj_get_name(proj_object(proj_crs_get_datum_forced(PJ_DEFAULT_CTX, of)).get()));
+        };
+        const auto& systems = built().sources.datums[row].systems;
+        ASSERT_FALSE(systems.empty()) << datum.name;
+        const auto system = epsg(systems.front().substr(5), PJ_CATEGORY_CRS);
+        EXPECT_EQ(datum_name(system.get()), datum_name(crs.get())) << datum.name;
     }
 }
 
