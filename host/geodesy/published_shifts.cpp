@@ -13,8 +13,8 @@ PJ* wgs84() {
     return object.get();
 }
 
-/// The number that a composed text of a plug-in gives back: twelve significant digits. They are all that is
-/// published; PROJ's conversion of units leaves 0.7899999999999999.
+/// The number that a composed text of a plug-in gives back: twelve significant digits. No publication has
+/// more; PROJ's conversion of units leaves 0.7899999999999999.
 double as_written(double value) {
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::general, 12).ptr;

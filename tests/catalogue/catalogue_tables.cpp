@@ -3,7 +3,6 @@
 #include <stdexcept>
 
 #include "catalogue/proj_objects.h"
-#include "support/numbers.h"
 #include "support/text.h"
 
 namespace catalogue_test {
@@ -107,8 +106,7 @@ ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record) {
 
 double named_meridian(const ox::Tox_pj_proj& zone) {
     const std::string& name = zone.zone_n.text;
-    const auto degrees = ox::scan_double(name.substr(name.find("CM") + 2)).value();
-    return name.ends_with("W)") ? -degrees : degrees;
+    return proj_todeg(proj_dmstor(name.c_str() + name.find("CM") + 2, nullptr));
 }
 
 }  // namespace catalogue_test

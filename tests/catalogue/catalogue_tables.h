@@ -32,7 +32,7 @@ std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& i
 /// Values that a person might enter, within the record's limits.
 ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record);
 
-/// 39 of a zone "7 (CM 39E)", -171 of "2N (CM 171W)".
+/// 39 of a zone "7 (CM 39E)", -171 of "2N (CM 171W)", 23.5 of "X1 (CM 23d30'E)".
 double named_meridian(const ox::Tox_pj_proj& zone);
 
 }  // namespace catalogue_test

@@ -70,5 +70,29 @@ TEST(CatalogueImports, OfMapSystemsFindANameOfTheirDatum) {
     EXPECT_GT(named, 1000);
 }
 
+/// Systems of zones whose import takes an operation for a part of the zone, or finds none published there.
+const std::map<std::string, std::string> no_zones{
+    {"EPSG:2938", "Pulkovo 1942 (EPSG:1809, Azerbaijan coast)"},
+    {"EPSG:2939", "Pulkovo 1942 (EPSG:1303, Kazakhstan, Caspian)"},
+    {"EPSG:28402", "<Custom>"},  // zones 2 and 3 lie west of every published area
+    {"EPSG:28403", "<Custom>"},
+    {"EPSG:5520", "<Custom>"},  // the North Sea
+};
+
+TEST(CatalogueImports, OfZonesAreZones) {
+    std::map<std::string, std::set<std::string>> families;
+    for (const auto& record : built().sources.zonal)
+        if (record.source.starts_with("EPSG:"))
+            families[record.source].insert(record.text("PRJ_NAME") + ' ' + record.text("ZONE_N"));
+    std::map<std::string, std::string> strangers;
+    for (const auto& [system, names] : families) {
+        const auto& model = imported(system);
+        const auto* zone = model.type() == ox::dialog::projection_type::zonal ? model.current() : nullptr;
+        if (!zone || !names.contains(zone->name + ' ' + zone->zone_n.text))
+            strangers[system] = model.datum()->name;
+    }
+    EXPECT_EQ(strangers, no_zones);
+}
+
 }  // namespace
 }  // namespace catalogue_test
