@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "catalogue/proj_objects.h"
+#include "proj_objects.h"
 #include "support/text.h"
 
 namespace catalogue_test {

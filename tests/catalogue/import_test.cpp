@@ -5,10 +5,10 @@
 #include <map>
 #include <set>
 
-#include "catalogue/catalogue_tables.h"
-#include "catalogue/proj_objects.h"
+#include "catalogue_tables.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/published_shifts.h"
+#include "proj_objects.h"
 #include "projection/projection_model.h"
 
 namespace catalogue_test {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "catalogue/catalogue_tables.h"
-#include "catalogue/proj_objects.h"
+#include "catalogue_tables.h"
+#include "proj_objects.h"
 
 namespace catalogue_test {
 namespace {
