@@ -15,7 +15,7 @@ namespace ox::platform {
 
 /// Windows code page numbers; 0 is the system's ANSI code page (on POSIX: the locale's character set,
 /// UTF-8 where the locale is "C" or "POSIX"). What the target cannot hold becomes a replacement
-/// character; a code page that the system does not know gives an empty text.
+/// character; a code page that the system does not know gives an empty text. [ui]
 std::wstring to_wide(const char* text, std::size_t length, unsigned code_page);
 std::string to_narrow(const wchar_t* text, std::size_t length, unsigned code_page);
 
