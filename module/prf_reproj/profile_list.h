@@ -42,8 +42,9 @@ struct prf_list {
     void set_target(std::wstring pj4);
     prf_reproj_job make_job() const;
 
+    /// Who is told may have himself replaced meanwhile.
     void notify() const {
-        if (on_changed) on_changed();
+        if (const auto told = on_changed) told();
     }
 
 private:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "framework/value_visitors.h"
 #include "prf_reproj/prf_tools.h"
 #include "prf_reproj/profile_list.h"
 #include "prf_reproj/profile_table.h"
@@ -78,7 +79,10 @@ TEST_F(Run, ReprojectsInOrderInsideEachScenesBracket) {
     host().add(L"a", longlat);
     host().add(L"b", longlat);
     list_all(utm);
+    int changes = 0;
+    list.on_changed = [&] { ++changes; };
     EXPECT_FALSE(run());
+    EXPECT_EQ(changes, 1);
     EXPECT_EQ(host().log,
               (strings{"progress 0", "begin a", "rpj", "init", "pv", "apply", "line a", "text a", "end a",
                        "begin b", "rpj", "init", "pv", "apply", "line b", "text b", "end b"}));
@@ -203,6 +207,29 @@ TEST_F(Run, ACheckBoxOfASelectedRowStandsForTheSelection) {
     EXPECT_TRUE(checks.state({}));  // the root counts as row 0
 }
 
+TEST_F(Run, WhereThereIsNoRowStandsAnEmptyOne) {
+    for (const int rows : {0, 1}) {
+        if (rows) host().add(L"a", longlat);
+        list_all(utm);
+        element::detail::prf_outline table(list);
+        element::detail::prf_check checks(list);
+        element::detail::prf_projection_column column(list);
+        for (const bool root : {true, false}) {
+            if (root && rows) continue;  // the root is row 0
+            toolkit::outline_table_item_index beyond(rows ? 0xFFFFFFFF : 0);
+            const custom_pointer item =
+                root ? custom_pointer{} : make_pointer<outline_item_index_impl>(beyond);
+            table.set_selected(item, true);
+            table.set_current_item(item);
+            checks.set_state(item, true);
+            EXPECT_FALSE(table.is_selected(item) || checks.state(item));
+            EXPECT_FALSE(column.highlight(item) || column.sorts_after(item, item));
+            EXPECT_EQ(read_text([&](custom_pointer v) { column.visit_cell_text(item, v); }), L"");
+            EXPECT_EQ(read_text([&](custom_pointer v) { column.visit_cell_hint(item, v); }), L"");
+        }
+    }
+}
+
 TEST_F(Run, ColumnsSortByCodeUnits) {
     // In the order in which they sort.
     for (const wchar_t* caption : {L"", L"A", L"AB", L"a", L"Б"}) host().add(caption, utm);
@@ -216,6 +243,8 @@ TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
     for (const wchar_t* caption : {L"a", L"b", L"c"}) host().add(caption, utm);
     list.rebuild(current_scenes());
     list.rows[1].selected = true;
+    int changes = 0;
+    list.on_changed = [&] { ++changes; };
     element::detail::prf_tools tools(list);
     struct clicker : tool_set_visitor_impl {
         std::wstring wanted;
@@ -225,7 +254,9 @@ TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
     } clicker;
     const auto click = [&](const wchar_t* id) {
         clicker.wanted = id;
+        const int before = changes;
         tools.visit_tools({make_pointer<tool_set_visitor_impl>(clicker), 0, nullptr});
+        EXPECT_EQ(changes, before + 1);
         return checked();
     };
     EXPECT_EQ(click(L"oxk_scn2d_prf_reproj_select_tool"), 3);
