@@ -84,8 +84,8 @@ TEST(Pictures, ArriveTopRowFirst) {
 struct french final : util::referent<localizer_impl> {
     french() : obj(custom_pointer{}) {}
     bool visit_string(std::uint32_t id, custom_pointer visitor) override {
-        if (id != 10) return false;
-        call<&string_visitor_impl::visit>(visitor, L"Projeter les coupes");
+        if (id > 11) return false;
+        call<&string_visitor_impl::visit>(visitor, id == 10 ? L"Projeter les coupes" : nullptr);
         return true;
     }
 };
@@ -96,7 +96,8 @@ TEST(Localizer, TakesOverOwnTextsOnlyWhileItLives) {
     ref<ox::localizer, 0> localizer(make_pointer<localizer_impl>(*new french));
     client.visit_localizer(localizer.get());
     EXPECT_EQ(resource::string(10), L"Projeter les coupes");
-    EXPECT_EQ(resource::string(11), L"");  // its answer is final
+    EXPECT_EQ(resource::string(11), L"");  // a null text is an empty one
+    EXPECT_EQ(resource::string(12), L"");  // its answer is final
     EXPECT_FALSE(resource::string(basic_text::accept).empty());
     localizer.reset();
     EXPECT_EQ(resource::string(10), L"Batch Project Sections");
