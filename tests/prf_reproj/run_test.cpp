@@ -27,7 +27,10 @@ const host_double::line moved{{101, 202}, {103, 204}};
 class Run : public testing::Test {
 protected:
     void SetUp() override { host_double::reset(); }
-    void TearDown() override { EXPECT_EQ(host().alive(), 0); }
+    void TearDown() override {
+        EXPECT_EQ(host().alive(), 0);
+        EXPECT_EQ(host().given_null, strings{});
+    }
 
     void list_all(const std::wstring& target) {
         list.rebuild(current_scenes());
@@ -181,6 +184,41 @@ TEST_F(Run, ASceneThatVanishesMeanwhileFailsOutsideABracket) {
     run();
     EXPECT_EQ(host().errors, texts{L"Reprojection error"});
     EXPECT_FALSE(host().logged("begin a"));
+}
+
+TEST_F(Run, AHostWithoutAnOpenProjectHasNoScenes) {
+    host().add(L"a", longlat);
+    for (bool host_double::state::*missing :
+         {&host_double::state::project_open, &host_double::state::project_has_scenes}) {
+        list_all(utm);
+        EXPECT_EQ(list.rows.size(), 1u);
+        host().*missing = false;
+        list_all(utm);
+        EXPECT_TRUE(list.rows.empty());
+        host().*missing = true;
+    }
+    host().scenes.push_back(nullptr);
+    list_all(utm);
+    EXPECT_EQ(list.rows.size(), 1u);
+    host().makes_adapters = false;
+    list_all(utm);
+    EXPECT_EQ(list.rows[0].pj4, L"");
+}
+
+TEST_F(Run, AProfileWithoutALineFailsWhereALineIsToMove) {
+    for (const wchar_t* caption : {L"a", L"b", L"c"})
+        host().add(caption, longlat).has_line = *caption != L'b';
+    list_all(utm);
+    run();
+    EXPECT_EQ(host().errors, texts{L"Reprojection error"});
+    EXPECT_EQ(host().scenes[0]->pj4, utm);
+    EXPECT_EQ(host().scenes[1]->pj4, longlat);
+    EXPECT_EQ(host().scenes[2]->pj4, longlat);
+
+    list_all(L"");  // where only the texts are set it does not matter
+    run();
+    EXPECT_EQ(host().messages, texts{L"Reprojection complete"});
+    EXPECT_EQ(host().scenes[1]->pj4, L"");
 }
 
 // ---- The table over the list ----

@@ -303,6 +303,20 @@ struct favourites_seen {
     custom_pointer table{};
 };
 
+TEST_F(Dialog, AHostMayHaveNoFavouritesList) {
+    host().makes_favourites = false;
+    dialog::favourites_model model;
+    model.current_text = [] { return std::wstring(L"+proj=longlat"); };
+    favourites_seen seen(model);
+    EXPECT_EQ(seen.text({}), L"");
+    model.append();
+    model.rename(0, L"new");
+    model.remove_selected();
+    model.choose(0);
+    EXPECT_EQ(model.selected(), -1);
+    EXPECT_TRUE(host().given_null.empty());
+}
+
 TEST_F(Dialog, WhereThereIsNoFavouriteStandsAnEmptyRow) {
     for (const bool any : {false, true}) {
         if (any) host().favourites = {{L"one", L"+proj=longlat"}};
