@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include "oxhost_run.h"
 
 namespace {
@@ -111,6 +113,28 @@ TEST(Catalogue, NamesTheIndexThatIsMissing) {
     EXPECT_EQ(run.code, 66);
     EXPECT_EQ(box.bytes("alone.error"),
               "oxhost: " + box.path("prj_def/pj_index.tsv").string() + ": cannot be opened\n");
+}
+
+/// The program and what lies beside it, started from a folder whose name is Cyrillic in the bytes of one
+/// character set or another.
+TEST(Catalogue, IsFoundInACyrillicFolder) {
+    constexpr auto locale = "ru_RU.CP1251";
+    if (!std::setlocale(LC_CTYPE, locale)) GTEST_SKIP() << "no locale " << locale;
+    std::setlocale(LC_CTYPE, "C");
+    for (const char* name : {"\xCF\xE0\xEF\xEA\xE0", "Папка"}) {
+        const sandbox box;
+        const fs::path program(OXHOST_PROGRAM), folder = box.path(name);
+        fs::create_directory(folder);
+        for (const auto& entry : fs::directory_iterator(program.parent_path()))
+            fs::create_symlink(entry.path(), folder / entry.path().filename());
+        fs::remove(folder / program.filename());
+        fs::copy(program, folder / program.filename());
+        const std::string run = std::string("LC_ALL=") + locale + " '" +
+                                (folder / program.filename()).string() +
+                                "' catalogue ellipsoids --find KRASS >.out 2>.error; exit 0;";
+        box.oxhost({}, "en", run);
+        EXPECT_TRUE(box.bytes(".out").starts_with("Krassowsky 1940")) << box.bytes(".error");
+    }
 }
 
 TEST(Describe, TellsCodeEllipsoidDatumAndWarnings) {
