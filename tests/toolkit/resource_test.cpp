@@ -59,6 +59,19 @@ TEST(HostTexts, ComeFromTheBasicModuleInItsLanguage) {
     EXPECT_NE(english, russian);
 }
 
+TEST(HostTexts, OneMayBeLookedUpWhileAnotherIsVisited) {
+    struct curious final : string_visitor_impl {
+        std::wstring text;
+        void visit(const wchar_t* visited) override {
+            EXPECT_FALSE(resource::string(basic_text::close).empty());
+            text = visited;
+        }
+    } visitor;
+    host_double::reset();
+    EXPECT_TRUE(resource::visit_string(basic_text::accept, make_pointer<string_visitor_impl>(visitor)));
+    EXPECT_EQ(visitor.text, L"Apply");
+}
+
 struct image_sink : thrice_interleaved_bytes_visitor_impl {
     std::int32_t rows = 0, row_stride = 0, columns = 0, channels = 0;
     void visit(std::int32_t r, std::int32_t stride, std::int32_t c, std::int32_t, std::int32_t n,
