@@ -8,8 +8,8 @@
 #include "border/host_api/oxk_proj4_d2.h"
 #include "border/host_api/oxk_scn_2d.h"
 #include "platform/platform.h"
-#include "prf_reproj/messages.h"
 #include "resources/text.h"
+#include "toolkit/resource_lookup.h"
 
 namespace ox::prf_reproj {
 
@@ -53,6 +53,10 @@ bool confirmed(reproj_check_state state) {
 }
 
 }  // namespace
+
+void show_message(std::int32_t text_id) { ox_show_wmessage(resource::string(text_id).c_str()); }
+void show_error(std::int32_t text_id) { ox_show_werror(resource::string(text_id).c_str()); }
+bool ask_yes_no(std::int32_t text_id) { return ox_yesno_wmessage(resource::string(text_id).c_str()); }
 
 bool run_reprojection(prf_list& list) {
     const prf_reproj_job job = list.make_job();

@@ -1,8 +1,10 @@
 #pragma once
-/// The sink that the support layer reports to. At most one is installed; code that has something to say
-/// asks for it at that moment and stays silent when there is none. The module itself installs none. [ui]
+/// The sink that the support layer reports to, and timers that report to it. At most one sink is installed;
+/// code that has something to say asks for it at that moment and stays silent when there is none. The
+/// module itself installs none. [ui]
 
 #include <cstdint>
+#include <string>
 
 namespace ox {
 
@@ -34,5 +36,12 @@ protected:
 /// The caller owns the sink and removes it (null) before it ends.
 void set_env(Tox_env* sink);
 Tox_env* get_env();
+
+/// Named timers; starting a name again keeps its first start.
+void timer_start(const std::string& name);
+/// Reports "name time(seconds)", whole seconds, or "name time(unknown start)" as a debug line. The start
+/// stays for later stops.
+void timer_stop(const std::string& name);
+void clear_timers();
 
 }  // namespace ox

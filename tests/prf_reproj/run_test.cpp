@@ -5,10 +5,10 @@
 #include <algorithm>
 
 #include "framework/value_visitors.h"
-#include "prf_reproj/prf_tools.h"
 #include "prf_reproj/profile_list.h"
 #include "prf_reproj/profile_table.h"
 #include "prf_reproj/reprojection_run.h"
+#include "prf_reproj/widget.h"
 #include "testing/case_name.h"
 #include "testing/host_double/host_double.h"
 
