@@ -19,7 +19,7 @@ public:
 
     virtual void message(const char* text) = 0;
     virtual void error(const char* text) = 0;
-    virtual void set_debug(bool on) = 0;
+    virtual void set_debug(bool enabled) = 0;
     virtual void debug(const char* text) = 0;
     virtual handle wait_begin(const char* text) = 0;
     virtual void wait_end(handle wait) = 0;
