@@ -49,8 +49,9 @@ struct ox_any_table {
     ox_pointer (*polymorphic)(const void* table, void* object);
 };
 
-/// The typed table of a pointer that is not empty: OX_TABLE(label, p)->enabled(p.table, p.object).
+/// A call through a pointer that is not empty: OX_TABLE(label, p)->visit_caption(OX_WORDS(p), visitor).
 #define OX_TABLE(interface_words, pointer) ((const struct ox_##interface_words##_table*)(pointer).table)
+#define OX_WORDS(pointer) (pointer).table, (pointer).object
 
 static inline bool ox_is_empty(ox_pointer p) { return !p.table || !p.object; }
 
@@ -61,10 +62,9 @@ static inline bool ox_is_same(ox_pointer a, ox_pointer b) {
 /// The interface `name` of the object behind a pointer of any interface; empty when it has none of that name.
 static inline ox_pointer ox_cast(ox_pointer any, const char* name) {
     ox_pointer polymorphic = {NULL, NULL}, found = {NULL, NULL};
-    if (!ox_is_empty(any)) polymorphic = OX_TABLE(any, any)->polymorphic(any.table, any.object);
+    if (!ox_is_empty(any)) polymorphic = OX_TABLE(any, any)->polymorphic(OX_WORDS(any));
     if (!ox_is_empty(polymorphic))
-        OX_TABLE(polymorphic, polymorphic)
-            ->query(polymorphic.table, polymorphic.object, name, &found.table, &found.object);
+        OX_TABLE(polymorphic, polymorphic)->query(OX_WORDS(polymorphic), name, &found.table, &found.object);
     if (ox_is_empty(found)) found.table = found.object = NULL;
     return found;
 }

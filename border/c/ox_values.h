@@ -84,7 +84,7 @@ struct ox_bitmap_visitor_table {
     void (*visit)(const void* table, void* object, ox_pointer bitmap);
 };
 
-/// A square picture of three channels with a mask of one. [bundle implements]
+/// A square picture of three channels with a mask of one. [host implements] [bundle implements]
 struct ox_masked_bitmap_table {
     ox_pointer (*polymorphic)(const void* table, void* object);
     uint32_t (*width)(const void* table, void* object);
