@@ -80,7 +80,7 @@ struct dropdown_impl : binding<dropdown_impl, dropdown> {
 
     virtual std::uint32_t item_count() { return 0; }
     virtual void visit_item(std::uint32_t /*index*/, custom_pointer /*string_visitor*/) {}
-    virtual std::size_t reserved() { return 0; }
+    virtual void reserved() {}
     virtual void visit_text(custom_pointer /*string_visitor*/) {}
     virtual std::uint32_t value() { return 0; }
     virtual bool enabled() { return true; }

@@ -21,7 +21,7 @@ struct utility_impl : binding<utility_impl, utility> {
     virtual void attach(custom_pointer /*window*/) {}
     virtual bool host_request() { return false; }
     virtual void run() {}
-    virtual std::size_t reserved() { return 0; }
+    virtual void reserved() {}
     virtual void set_host_data(custom_pointer /*data*/) {}
     using table = operations<&utility_impl::visit_caption, &utility_impl::visit_icon, &utility_impl::attach,
                              &utility_impl::host_request, &utility_impl::run, &utility_impl::reserved,

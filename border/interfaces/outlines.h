@@ -25,7 +25,7 @@ struct outline_item_index_visitor_impl
 
 /// The check boxes of an outline. [module implements]
 struct outline_checks_impl : binding<outline_checks_impl, outline_checks> {
-    virtual std::size_t reserved() { return 0; }
+    virtual void reserved() {}
     virtual bool flag() { return false; }
     virtual bool state(custom_pointer /*item*/) { return false; }
     virtual void set_state(custom_pointer /*item*/, bool /*checked*/) {}

@@ -87,17 +87,11 @@ OX_SPARE(34) OX_SPARE(35)
 #undef OX_SPARE
 #undef OX_SPARE_NAMED
 
-/// The C++ listing may answer a number where C promises nothing: nobody reads it.
-template <class InC, class InCpp>
-constexpr bool spare_fits =
-    std::is_same_v<InC, InCpp> || (std::is_same_v<InC, void (*)(const void*, void*)> &&
-                                   std::is_same_v<InCpp, std::size_t (*)(const void*, void*)>);
-
 template <class I, class Table, std::size_t Slot>
 constexpr bool is_spare =
     spare<Table, Slot>::slot == Slot &&
-    spare_fits<typename spare<Table, Slot>::type,
-               std::tuple_element_t<Slot - 1, typename listing_of<I>::entries>>;
+    std::is_same_v<typename spare<Table, Slot>::type,
+                   std::tuple_element_t<Slot - 1, typename listing_of<I>::entries>>;
 // clang-format on
 
 /// Is every slot either among those named (slot 0 always is) or a spare one?
