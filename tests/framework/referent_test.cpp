@@ -94,6 +94,56 @@ TEST_F(Referents, AReferrerAddedTwiceIsRemovedTwice) {
     EXPECT_EQ(twice.told, 0);
 }
 
+// ---- References that live in what other references release ----
+
+struct link final : util::referent<utility_service_impl> {
+    link() : obj(custom_pointer{}) { ++services_alive; }
+    ~link() override { --services_alive; }
+    custom_pointer pointer() { return make_pointer<utility_service_impl>(*this); }
+    holding next;
+};
+
+TEST_F(Referents, AReferenceMovesAlongTheChainThatItReleases) {
+    auto *first = new link, *second = new link;
+    first->next.reset(second->pointer());
+    holding head(first->pointer());
+    head = first->next;
+    EXPECT_EQ(services_alive, 1);
+    EXPECT_EQ(head.get(), second->pointer());
+}
+
+TEST_F(Referents, AReferenceMayLiveInWhatItReleases) {
+    auto *circular = new link, *other = new link;
+    const holding holder(other->pointer());
+    circular->next.reset(circular->pointer());
+    circular->next = holder;
+    EXPECT_EQ(services_alive, 1);
+}
+
+TEST_F(Referents, AnObserverSeesTheEndOfATargetThatGoesWithTheOldOne) {
+    auto *first = new link, *second = new link;
+    first->next.reset(second->pointer());
+    observing watcher(first->pointer());
+    watcher.reset(second->pointer());  // nobody holds the first one
+    EXPECT_FALSE(watcher);
+}
+
+TEST_F(Referents, AReferenceMayBeSetAnewWhileItsTargetEnds) {
+    auto *first = new link, *second = new link;
+    const holding holder(second->pointer());
+    observing watcher;
+    struct resetter final : referrer_impl {
+        std::function<void()> when_told;
+        void released(custom_pointer) override { when_told(); }
+    } resetter;
+    resetter.when_told = [&] { watcher.reset(second->pointer()); };
+    holding head(first->pointer());
+    first->add_referrer(make_pointer<referrer_impl>(resetter));
+    watcher.reset(first->pointer());
+    head.reset();
+    EXPECT_EQ(watcher.get(), second->pointer());
+}
+
 // ---- Referrers that come and go while a referent asks or tells them ----
 
 /// Named by a letter; what it does when it is told or asked is the test's.
