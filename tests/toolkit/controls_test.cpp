@@ -86,8 +86,7 @@ TEST(NumericInput, ARefusedValueLeavesTheOldOne) {
 
 TEST(Dropdown, SpeaksOfNothingCurrentWhereAValueIsUnknown) {
     dropdownex<unsigned> list;
-    list.set_items({{L"seven", 7}, {L"nine", 9}});
-    list.set_current_value(9u);
+    list.set_items({{L"seven", 7}, {L"nine", 9}}, 9u);
     EXPECT_EQ(list.current(), 1u);
     list.set_current_value(8u);
     EXPECT_EQ(list.current(), 0xFFFFFFFFu);
