@@ -80,6 +80,19 @@ TEST_F(Dialog, OpensOnWhateverStandsInTheFolder) {
 
 // ---- As the user sees it: the model and the groups ----
 
+/// The one drop-down in a row of a grid, which may stand in a grid of its own.
+custom_pointer choice_of(grid_layout_impl& grid, std::int32_t row) {
+    struct finder : element_visitor_impl {
+        custom_pointer found{};
+        void dropdown(custom_pointer element) override { found = element; }
+        void grid_layout(custom_pointer inner) override {
+            call<&grid_layout_impl::visit_cell>(inner, 1, 0, make_pointer<element_visitor_impl>(*this));
+        }
+    } finder;
+    grid.visit_cell(0, row, make_pointer<element_visitor_impl>(finder));
+    return finder.found;
+}
+
 TEST_F(Dialog, ChoicesFollowTheCatalogue) {
     write_catalogue();
     dialog::projection_model model;
@@ -102,6 +115,36 @@ TEST_F(Dialog, ChoicesFollowTheCatalogue) {
     EXPECT_EQ(model.datum()->name, "Pulkovo");
     model.set_datum_values({24, -123, -95, 0, 0, 0, 0});
     EXPECT_EQ(model.datum()->name, "<Custom>");
+}
+
+TEST_F(Dialog, ARecordWhoseNameBothHemispheresCarryStaysCurrent) {
+    write_catalogue();
+    std::vector<row> zones{zone(7, 39)};
+    for (const bool south : {false, true})
+        for (const int number : {39, 40}) {
+            zones.push_back(utm(number, south));
+            zones.back()["PRJ_NAME"] = "UTM";
+        }
+    write_table(folder_ / "prj_def/pj_proj2.dbf", projection_columns, zones);
+    for (const char* text : {"+proj=utm +zone=40 +ellps=WGS84", "+proj=utm +zone=40 +south +ellps=WGS84"}) {
+        SCOPED_TRACE(text);
+        dialog::projection_model model;
+        model.classify(text);
+        element::proj_params group(model);
+        group.show_text();
+        const Tox_pj_proj* given = model.current();
+        const custom_pointer names = choice_of(group.content(), 0),
+                             zone_numbers = choice_of(group.content(), 1);
+        EXPECT_EQ(call<&dropdown_impl::item_count>(names), 2u);
+        for (const custom_pointer choice : {names, zone_numbers}) {
+            const std::uint32_t shown = call<&dropdown_impl::current>(choice);
+            EXPECT_NE(shown, dropdown_impl::no_item);
+            call<&dropdown_impl::select>(choice, shown);  // the user chooses what is shown
+            EXPECT_EQ(model.current(), given);
+        }
+        call<&dropdown_impl::select>(names, 0);
+        EXPECT_EQ(model.current()->name, "GK");
+    }
 }
 
 TEST_F(Dialog, GridsAreKeptOnlyByATextWithoutProjection) {
