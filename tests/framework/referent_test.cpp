@@ -53,7 +53,8 @@ TEST_F(Referents, AnObserverLeavingDoesNotEndWhatIsHeld) {
 TEST_F(Referents, ReassigningToTheSameTargetKeepsIt) {
     holding holder((new service)->pointer());
     holder.reset(holder.get());
-    holder = holder;
+    const holding& same = holder;
+    holder = same;
     EXPECT_EQ(services_alive, 1);
 }
 
