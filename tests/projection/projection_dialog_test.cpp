@@ -142,7 +142,7 @@ TEST_F(Dialog, ARecordWhoseNameBothHemispheresCarryStaysCurrent) {
             call<&dropdown_impl::select>(choice, shown);  // the user chooses what is shown
             EXPECT_EQ(model.current(), given);
         }
-        call<&dropdown_impl::select>(names, 0);
+        call<&dropdown_impl::select>(names, 0u);
         EXPECT_EQ(model.current()->name, "GK");
     }
 }
