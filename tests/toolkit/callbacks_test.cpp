@@ -60,67 +60,26 @@ class Callbacks : public testing::TestWithParam<callback_case> {};
 TEST_P(Callbacks, MayEndTheirElement) { GetParam().run(meanwhile::element_ends); }
 TEST_P(Callbacks, MayUnsetThemselves) { GetParam().run(meanwhile::callback_is_unset); }
 
-constexpr callback_case callback_cases[] = {
-    {"Button",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button(0), [](auto& e, auto f) { e.set_on_click(f); }, [](auto& e) { e.click(); });
-     }},
-    {"LayoutAccept",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button_layout, [](auto& e, auto f) { e.on_accept = f; },
-             [](auto& e) { e.add(0, 1).click(); });
-     }},
-    {"LayoutCommand",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button_layout, [](auto& e, auto f) { e.on_command = f; },
-             [](auto& e) { e.add(0, 8).click(); });
-     }},
-    {"BoxApply",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button_box(commands(command::apply)), [](auto& e, auto f) { e.on_apply = f; },
-             [](auto& e) { e.click(0); });
-     }},
-    {"BoxHelp",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button_box(commands(command::help)), [](auto& e, auto f) { e.on_help = f; },
-             [](auto& e) { e.click(0); });
-     }},
-    {"BoxCommand",
-     [](meanwhile what) {
-         expect_survival(
-             what, new button_box(commands(command::yes)), [](auto& e, auto f) { e.on_command = f; },
-             [](auto& e) { e.click(0); });
-     }},
-    {"Dropdown",
-     [](meanwhile what) {
-         expect_survival(
-             what, new whole<dropdown>, [](auto& e, auto f) { e.on_select = f; },
-             [](auto& e) { e.select(1); });
-     }},
-    {"Number",
-     [](meanwhile what) {
-         expect_survival(
-             what, new whole<floating_input>, [](auto& e, auto f) { e.on_change = f; },
-             [](auto& e) { e.set_value(3); });
-     }},
-    {"Input",
-     [](meanwhile what) {
-         expect_survival(
-             what, new whole<input>, [](auto& e, auto f) { e.on_change = f; }, [](auto& e) { e.commit(); });
-     }},
-    {"Tool",
-     [](meanwhile what) {
-         expect_survival(
-             what, new whole<action_tool>(0, 0, 0), [](auto& e, auto f) { e.on_click = f; },
-             [](auto& e) { e.click(); });
-     }},
-};
-INSTANTIATE_TEST_SUITE_P(Elements, Callbacks, testing::ValuesIn(callback_cases), case_name);
+#define CALLBACK(name, element, set, cause)                                               \
+    callback_case {                                                                       \
+        name, [](meanwhile what) {                                                        \
+            expect_survival(                                                              \
+                what, new element, [](auto& e, auto f) { set; }, [](auto& e) { cause; }); \
+        }                                                                                 \
+    }
+INSTANTIATE_TEST_SUITE_P(
+    Elements, Callbacks,
+    testing::Values(CALLBACK("Button", button(0), e.set_on_click(f), e.click()),
+                    CALLBACK("LayoutAccept", button_layout, e.on_accept = f, e.add(0, 1).click()),
+                    CALLBACK("LayoutCommand", button_layout, e.on_command = f, e.add(0, 8).click()),
+                    CALLBACK("BoxApply", button_box(commands(command::apply)), e.on_apply = f, e.click(0)),
+                    CALLBACK("BoxHelp", button_box(commands(command::help)), e.on_help = f, e.click(0)),
+                    CALLBACK("BoxCommand", button_box(commands(command::yes)), e.on_command = f, e.click(0)),
+                    CALLBACK("Dropdown", whole<dropdown>, e.on_select = f, e.select(1)),
+                    CALLBACK("Number", whole<floating_input>, e.on_change = f, e.set_value(3)),
+                    CALLBACK("Input", whole<input>, e.on_change = f, e.commit()),
+                    CALLBACK("Tool", whole<action_tool>(0, 0, 0), e.on_click = f, e.click())),
+    case_name);
 
 TEST(ButtonLayout, EndedByOneCallbackCallsNoOther) {
     auto* layout = new button_layout;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "counting_view.h"
 #include "testing/case_name.h"
 #include "toolkit/button_layout.h"
 #include "toolkit/input.h"
@@ -38,17 +37,6 @@ TEST(Grid, VisitsCellsByColumnAndRowAndSkipsEmptyOnes) {
     EXPECT_EQ(seen.kinds, "button label input ");
     EXPECT_EQ(seen.last, make_pointer<input_impl>(named));
     call<&grid_layout_impl::visit_cell>(p, 2, 0, custom_pointer{});
-}
-
-TEST(Grid, HidingARowTellsTheView) {
-    grid_layout<2, 1> grid;
-    counting_view view;
-    grid.attach_view(view.pointer());
-    grid.set_row_shown(1, false);
-    grid.set_row_shown(1, false);
-    EXPECT_FALSE(grid.row_shown(1));
-    EXPECT_TRUE(grid.row_shown(0));
-    EXPECT_EQ(view.changes, 1);
 }
 
 struct layout_case {

@@ -121,6 +121,8 @@ const setter_case setter_cases[] = {
     SETTER("GridRowValue", (grid_layout<1, 2>()), e.set_row_value(0, 3), e.row_value(0), 3u),
     SETTER("GridColumnValue", (grid_layout<1, 2>()), e.set_column_value(1, 3), e.column_value(1), 3u),
     SETTER("GridColumnShown", (grid_layout<1, 2>()), e.set_column_shown(1, false), e.column_shown(1), false),
+    SETTER("GridRow", (grid_layout<2, 1>()), e.set_row_shown(1, false),
+           std::pair(e.row_shown(0), e.row_shown(1)), std::pair(true, false)),
     SETTER("GridRows", (grid_layout<3, 1>()), e.set_rows_shown({false, true, false}),
            (std::array{e.row_shown(0), e.row_shown(1), e.row_shown(2)}), (std::array{false, true, false})),
     SETTER("Stack", stack_layout<2>(), e.set_current(1), e.current(), 1u),
