@@ -19,7 +19,7 @@ struct custom_pointer {
     friend bool operator==(const custom_pointer&, const custom_pointer&) = default;
     /// By the addresses, table first.
     friend std::strong_ordering operator<=>(const custom_pointer& a, const custom_pointer& b) {
-        if (const auto order = address(a.table) <=> address(b.table); order != 0) return order;
+        if (const auto order = address(a.table) <=> address(b.table); std::is_neq(order)) return order;
         return address(a.object) <=> address(b.object);
     }
 

@@ -6,7 +6,9 @@ packages=(
     build-essential cmake ninja-build pkg-config
     libproj-dev proj-bin proj-data libsqlite3-dev libgdal-dev gdal-bin libcli11-dev nlohmann-json3-dev
 )
-test_packages=(libgtest-dev libgmock-dev googletest locales g++-mingw-w64-x86-64 wine64)
+test_packages=(
+    clang clang-format clang-tidy git libgtest-dev libgmock-dev googletest locales g++-mingw-w64-x86-64 wine64
+)
 test_locales=("ru_RU UTF-8" "ru_RU CP1251" "de_DE UTF-8")
 
 [[ $# -eq 0 || ($# -eq 1 && $1 == --tests) ]] || { echo "usage: setup.sh [--tests]" >&2; exit 64; }

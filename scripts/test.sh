@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Installs, builds and runs all tests: as released, under the address and undefined-behaviour sanitizers,
-# then the Windows build under Wine.
+# Installs, judges the sources, builds and runs all tests: as released, under the address and undefined-behaviour
+# sanitizers, then the Windows build under Wine.
 source "$(dirname "${BASH_SOURCE[0]}")/step.sh"
 
 scripts/setup.sh --tests
+scripts/lint.sh
 for preset in release asan windows; do
     step "Configuring build/$preset" cmake --preset "$preset" -DBUILD_TESTING=ON
     step "Building build/$preset" cmake --build --preset "$preset" --parallel "$(nproc)"

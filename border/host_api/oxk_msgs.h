@@ -14,6 +14,6 @@ OX_HOST_API void* ox_progress_create(int options);
 OX_HOST_API bool ox_progress_report(void* progress, double fraction);
 OX_HOST_API void ox_progress_destroy(void* progress);
 
-/// Told of an exception that a module kept from crossing the border: the interface, the slot of its table and the
-/// exception's words. A host need not have it, so it is looked up by name and never linked.
+/// Told of an exception that a module kept from crossing the border: the interface, the slot of its table and
+/// the exception's words. A host need not have it, so it is looked up by name and never linked.
 OX_HOST_API void ox_border_fault(const char* place, std::uint32_t slot, const char* what);

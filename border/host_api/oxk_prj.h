@@ -3,5 +3,7 @@
 
 #include "border/host_api/host_api.h"
 
+/// Null while no project is open.
 OX_HOST_API void* ox_prj_get_instance(void);
+/// Null where the project has no scenes.
 OX_HOST_API void* ox_prj_get_scns_2d_ptr(void* project);

@@ -1,10 +1,12 @@
 #include <CLI/CLI.hpp>
 #include <cwctype>
 #include <iostream>
+#include <optional>
 
 #include "app/command.h"
 #include "app/plug_in_texts.h"
 #include "app/projection_dialog_drive.h"
+#include "catalogue/index.h"
 #include "geodesy/proj4_text.h"
 #include "session/string_adapter.h"
 
@@ -56,30 +58,72 @@ std::string numbers_of(dialog_hands& in, std::string_view group) {
     return line;
 }
 
-/// Chooses every item of a list in turn and prints what the dialog shows of it.
-class listing {
-public:
-    explicit listing(const catalogue_options& options) : options_(options) {}
+bool contains(const std::string& text, const std::string& sought) {
+    return folded(text).find(folded(sought)) != std::wstring::npos;
+}
 
-    /// `lines` gives the lines of the item that is chosen.
-    template <class Lines>
-    void part(std::string_view name, dialog_hands& in, std::string_view group, Lines&& lines) {
-        if (!options_.part.empty() && options_.part != name) return;
-        if (options_.part.empty()) std::cout << name << '\n';
-        const auto items = list_of(in, group).state().items;
-        for (std::uint32_t i = 0; i < items.size(); ++i) {
-            list_of(in, group).choose(i);
-            for (const std::string& line : lines()) print(items[i] + "  " + line);
-        }
+/// What --find looks for: a part of a line or of a further name, or a whole EPSG code, bare or after "EPSG:".
+class search {
+public:
+    explicit search(std::string text) : text_(std::move(text)) {
+        if (!text_.empty()) index_.emplace(index_beside_program());
+    }
+
+    /// The line of an entry, and in brackets what it is found by beside its words; nothing when it is not.
+    std::optional<std::string> found(const std::string& part, const std::string& name,
+                                     const std::string& zone, const std::string& line) const {
+        if (contains(line, text_)) return line;
+        const index_entry* entry = index_->find(part, name, zone);
+        if (!entry) return {};
+        for (const std::string& code : entry->codes)
+            if (folded(code) == folded(text_) || code == "EPSG:" + text_) return line + "  [" + code + ']';
+        if (contains(entry->also, text_)) return line + "  [" + entry->also + ']';
+        return {};
     }
 
 private:
-    void print(const std::string& line) const {
-        if (folded(line).find(folded(options_.find)) != std::wstring::npos)
-            std::cout << (options_.part.empty() ? "  " : "") << line << '\n';
+    static catalogue_index index_beside_program() try {
+        const auto program = std::filesystem::read_symlink("/proc/self/exe");
+        return catalogue_index(program.parent_path() / "prj_def" / catalogue_index_file);
+    } catch (const std::runtime_error& e) {
+        throw failure(exit_code::unreadable, e.what());
     }
 
-    const catalogue_options& options_;
+    std::string text_;
+    std::optional<catalogue_index> index_;  ///< while anything is sought
+};
+
+/// Chooses every item of a list in turn and prints what the dialog shows of it.
+class listing {
+public:
+    explicit listing(const catalogue_options& options) : only_part_(options.part), search_(options.find) {}
+
+    /// `lines` gives the lines of the item that is chosen; in the list of zones, a line is a zone.
+    template <class Lines>
+    void part(const std::string& name, dialog_hands& in, std::string_view group, Lines&& lines) {
+        if (!only_part_.empty() && only_part_ != name) return;
+        bool headed = !only_part_.empty();
+        const auto items = list_of(in, group).state().items;
+        for (std::uint32_t i = 0; i < items.size(); ++i) {
+            list_of(in, group).choose(i);
+            for (const std::string& line : lines()) {
+                const std::string zone = name == "zones" ? line : "";
+                const auto found = search_.found(name, items[i], zone, items[i] + "  " + line);
+                if (!found) continue;
+                if (!headed) std::cout << name << '\n';
+                headed = true;
+                std::cout << (only_part_.empty() ? "  " : "") << *found << '\n';
+                ++count_;
+            }
+        }
+    }
+
+    std::size_t count() const { return count_; }
+
+private:
+    const std::string only_part_;
+    const search search_;
+    std::size_t count_ = 0;
 };
 
 using lines = std::vector<std::string>;
@@ -93,9 +137,9 @@ std::string asked_parameters(dialog_hands& in) {
 
 exit_code list_catalogue(const catalogue_options& options) try {
     namespace text = plug_in_text;
+    listing list(options);
     projection_dialog dialog(options.bundle);
     dialog.open("", [&](dialog_hands& in) {
-        listing list(options);
         in.choose(text::type(), text::usual());
         list.part("ellipsoids", in, text::spheroid(),
                   [&] { return lines{numbers_of(in, text::spheroid())}; });
@@ -107,6 +151,8 @@ exit_code list_catalogue(const catalogue_options& options) try {
         in.choose(text::type(), text::zonal());
         list.part("zones", in, text::projection(), [&] { return in.control(text::zone()).state().items; });
     });
+    if (list.count() == 0 && !options.find.empty())
+        throw failure(exit_code::nothing_done, "nothing in the catalogue is called \"" + options.find + '"');
     return exit_code::done;
 } catch (const shell::bundle_error& e) {
     throw failure(exit_code::unreadable, e.what());
@@ -122,7 +168,10 @@ void add_catalogue(CLI::App& app, action& chosen) {
         "seven parameters), projections (what they ask for), zones");
     command->add_option("part", options->part, "ellipsoids, datums, projections or zones (default: all)")
         ->check(CLI::IsMember({"ellipsoids", "datums", "projections", "zones"}));
-    command->add_option("--find", options->find, "Only entries that contain this, in either case")
+    command
+        ->add_option("--find", options->find,
+                     "Only entries with this in their line or in a further name (\"SK-42\"), in either case, "
+                     "or of this EPSG code")
         ->type_name("TEXT");
     add_language(*command);
     add_bundle(*command, options->bundle);

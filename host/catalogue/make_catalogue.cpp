@@ -1,4 +1,4 @@
-/// make_catalogue SOURCE_DIR OUT_DIR: writes the four catalogue tables from their readable sources.
+/// make_catalogue SOURCE_DIR OUT_DIR: writes the four catalogue tables and their index from readable sources.
 
 #include <algorithm>
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <span>
 #include <stdexcept>
 
-#include "catalogue/records.h"
+#include "catalogue/index.h"
 #include "support/catalogue.h"
 #include "support/catalogue_columns.h"
 #include "support/dbf.h"
@@ -67,6 +67,7 @@ void make_catalogue(const std::filesystem::path& sources, const std::filesystem:
     write_table(table(ox::datums_table), ox::datum_columns, all.datums);
     write_table(table(ox::usual_projections_table), ox::projection_columns, all.usual);
     write_table(table(ox::zonal_projections_table), ox::projection_columns, all.zonal);
+    write_index(out / catalogue_index_file, all);
 }
 
 }  // namespace

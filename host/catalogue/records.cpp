@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 
 namespace oxhost {
@@ -13,12 +15,13 @@ namespace {
     throw std::runtime_error(row.place + ": " + reason);
 }
 
-void require_number(const tsv_row& row, std::string_view text) {
+double require_number(const tsv_row& row, std::string_view text) {
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size()) {
         refuse(row, "\"" + std::string(text) + "\" is no number");
     }
+    return value;
 }
 
 int whole_number(const tsv_row& row, std::string_view column) {
@@ -32,7 +35,7 @@ int whole_number(const tsv_row& row, std::string_view column) {
 }
 
 catalogue_record begin_record(const tsv_row& row, std::initializer_list<const char*> copied) {
-    catalogue_record record{row.place, row["source"], {}};
+    catalogue_record record{row.place, {}, row["source"], {}, {}};
     for (const char* column : copied) record.fields[column] = row[column];
     return record;
 }
@@ -84,6 +87,9 @@ catalogue_record datum_record(const tsv_row& row, const std::vector<catalogue_re
                                              [](const catalogue_record& e) { return e.text("ELLPS_NAME"); });
     if (ellipsoid == ellipsoids.end()) refuse(row, "no ellipsoid \"" + row["ellipsoid"] + "\"");
     record.fields["ELLPS_ID"] = ellipsoid->text("ELLPS_ID");
+    record.also = row["also"];
+    std::istringstream codes(row["systems"]);
+    for (std::string code; codes >> code;) record.systems.push_back("EPSG:" + code);
     return record;
 }
 
@@ -97,18 +103,37 @@ catalogue_record usual_record(const tsv_row& row) {
     return record;
 }
 
-/// "39E", "171W", "180", "0".
-std::string meridian_text(int longitude) {
-    const char* side = longitude % 180 == 0 ? "" : longitude < 0 ? "W" : "E";
-    return std::to_string(std::abs(longitude)) + side;
+/// Twelve significant digits, as many as a composed text carries.
+std::string number_text(double number) {
+    std::array<char, 32> digits{};
+    return {digits.data(),
+            std::to_chars(digits.begin(), digits.end(), number, std::chars_format::general, 12).ptr};
+}
+
+/// "39E", "171W", "180", "0", "41d32'E".
+std::string meridian_text(double longitude) {
+    const long minutes = std::lround(std::abs(longitude) * 60);
+    std::string text = std::to_string(minutes / 60);
+    if (minutes % 60 != 0) text += "d" + std::to_string(minutes % 60) + "'";
+    if (minutes % (180 * 60) != 0) text += longitude < 0 ? 'W' : 'E';
+    return text;
+}
+
+/// "40N (CM 57E)": the label's "#" stands for the zone's number.
+std::string zone_name(const tsv_row& row, int zone, double meridian) {
+    std::string label = row["label"];
+    const auto place = label.find('#');
+    if (place == std::string::npos) refuse(row, "the label has no place for the zone's number");
+    return label.replace(place, 1, std::to_string(zone)) + " (CM " + meridian_text(meridian) + ")";
 }
 
 catalogue_record zonal_record(const tsv_row& row, int zone) {
     auto record = begin_record(row, {"PRJ_NAME", "PRJ_ALIAS", "PROJ", "SOUTH", "DATUM"});
+    record.also = row["also"];
     for (const char* name : {"LAT_0", "K_0", "Y_0"}) set_parameter(record, row, name, row[name]);
-    int meridian = whole_number(row, "cm_of_0") + whole_number(row, "width") * zone;
+    double meridian = require_number(row, row["cm_of_0"]) + whole_number(row, "width") * zone;
     if (meridian > 180) meridian -= 360;
-    if (row["LON_0"] == "cm") set_parameter(record, row, "LON_0", std::to_string(meridian));
+    if (row["LON_0"] == "cm") set_parameter(record, row, "LON_0", number_text(meridian));
     if (!row["X_0"].empty()) {
         set_parameter(record, row, "X_0",
                       std::to_string(whole_number(row, "X_0") + whole_number(row, "x_step") * zone));
@@ -116,8 +141,7 @@ catalogue_record zonal_record(const tsv_row& row, int zone) {
     set_units(record, row);
     switch_on(record, "ZONE");
     record.fields["ZONE_V"] = std::to_string(zone);
-    record.fields["ZONE_N"] =
-        std::to_string(zone) + row["zone_suffix"] + " (CM " + meridian_text(meridian) + ")";
+    record.fields["ZONE_N"] = zone_name(row, zone, meridian);
     // The source names the first zone's code, or has words for zones without one.
     static constexpr std::string_view epsg = "EPSG:";
     if (int code = 0; record.source.starts_with(epsg)) {

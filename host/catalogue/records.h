@@ -12,8 +12,11 @@ namespace oxhost {
 /// A record to be. Columns that it does not name are blank.
 struct catalogue_record {
     std::string place;   ///< of the source row
-    std::string source;  ///< where its numbers come from, such as "EPSG:28407"; not part of the table
     named_cells fields;  ///< column name to text
+    // Not part of the table:
+    std::string source;                ///< where its numbers come from, such as "EPSG:28407"
+    std::vector<std::string> systems;  ///< a datum's geographic systems, such as "EPSG:4284"
+    std::string also;                  ///< further names, "; " between them
 
     /// Text of a column, empty when blank.
     std::string text(std::string_view column) const;

@@ -47,7 +47,7 @@ private:
                    (tokens_.has("south") ? say(" south", " юг") : say(" north", " север"));
         }
         if (const auto zone = gauss_kruger_zone()) {
-            return say("Gauss-Krüger, zone ", "Гаусса - Крюгера, зона ") + std::to_string(*zone);
+            return say("Gauss-Krüger, zone ", "Гаусса – Крюгера, зона ") + std::to_string(*zone);
         }
         if (key.empty()) return tokens_.value("init").value_or("");
         return projection_name(key, in_);
@@ -111,7 +111,7 @@ private:
 };
 
 std::string undefined(language in) {
-    return in == language::russian ? "Проекция не задана" : "Projection is not defined";
+    return in == language::russian ? "Проекция не определена" : "Projection is not defined";
 }
 
 std::string refused(const crs& system, language in) {

@@ -25,7 +25,7 @@ constexpr std::array projections{
     term{"aeqd", "Azimuthal Equidistant", "Равнопромежуточная азимутальная"},
     term{"stere", "Stereographic", "Стереографическая"},
     term{"sterea", "Oblique Stereographic", "Косая стереографическая"},
-    term{"cass", "Cassini-Soldner", "Кассини - Зольднера"},
+    term{"cass", "Cassini-Soldner", "Кассини – Зольднера"},
     term{"poly", "Polyconic", "Поликоническая"},
     term{"krovak", "Krovak", "Кровака"},
     term{"gnom", "Gnomonic", "Гномоническая"},
@@ -65,18 +65,18 @@ constexpr std::array units{
 };
 
 constexpr std::array parameters{
-    parameter_term{{"lon_0", "central meridian", "осевой меридиан"}, true, false},
-    parameter_term{{"lonc", "longitude of the centre", "долгота центра"}, true, false},
-    parameter_term{{"lat_0", "latitude of origin", "широта начала"}, true, false},
+    parameter_term{{"lon_0", "central meridian", "центральный меридиан"}, true, false},
+    parameter_term{{"lonc", "longitude of the centre", "меридиан центра проекции"}, true, false},
+    parameter_term{{"lat_0", "latitude of origin", "широта начала координат"}, true, false},
     parameter_term{{"lat_1", "1st standard parallel", "1-я стандартная параллель"}, true, false},
     parameter_term{{"lat_2", "2nd standard parallel", "2-я стандартная параллель"}, true, false},
-    parameter_term{{"lat_ts", "latitude of true scale", "широта истинного масштаба"}, true, false},
-    parameter_term{{"alpha", "azimuth", "азимут"}, true, false},
+    parameter_term{{"lat_ts", "latitude of true scale", "1-я стандартная параллель"}, true, false},
+    parameter_term{{"alpha", "azimuth", "азимут альфа"}, true, false},
     parameter_term{{"gamma", "rotation of the grid", "поворот сетки"}, true, false},
-    parameter_term{{"k_0", "scale factor", "масштабный множитель"}, false, false},
-    parameter_term{{"k", "scale factor", "масштабный множитель"}, false, false},
-    parameter_term{{"x_0", "false easting", "сдвиг на восток"}, false, true},
-    parameter_term{{"y_0", "false northing", "сдвиг на север"}, false, true},
+    parameter_term{{"k_0", "scale factor", "масштабный коэффициент"}, false, false},
+    parameter_term{{"k", "scale factor", "масштабный коэффициент"}, false, false},
+    parameter_term{{"x_0", "false easting", "сдвиг к востоку"}, false, true},
+    parameter_term{{"y_0", "false northing", "сдвиг к северу"}, false, true},
 };
 
 const term* find(std::span<const term> terms, std::string_view key) {

@@ -1,6 +1,7 @@
 #include "geodesy/published_shifts.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <map>
 
@@ -12,13 +13,21 @@ PJ* wgs84() {
     return object.get();
 }
 
+/// The number that a composed text of a plug-in gives back: twelve significant digits. No publication has
+/// more; PROJ's conversion of units leaves 0.7899999999999999.
+double as_written(double value) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::general, 12).ptr;
+    std::from_chars(digits.begin(), end, value);
+    return value;
+}
+
 std::optional<published_shift> read_shift(const PJ* operation) {
     published_shift shift{};
     shift.values.resize(7);
     if (!proj_coordoperation_get_towgs84_values(proj_context(), operation, shift.values.data(), 7, 0))
         return {};
-    // published with at most nine decimals; PROJ's conversion of units leaves 0.7899999999999999
-    for (double& value : shift.values) value = std::round(value * 1e9) / 1e9;
+    for (double& value : shift.values) value = as_written(value);
     const char* authority = proj_get_id_auth_name(operation, 0);
     const char* code = proj_get_id_code(operation, 0);
     if (!authority || !code) return {};  // put together by PROJ, published by nobody

@@ -12,6 +12,7 @@ void key_visitor::visit(std::int32_t rows, std::int32_t row_stride, std::int32_t
                         std::int32_t pixel_stride, std::int32_t channels, std::int32_t channel_stride,
                         const std::uint8_t* data) {
     constexpr auto deliver = &thrice_interleaved_bytes_visitor_impl::visit;
+    if (!data) return;
     if (channels != 1 && channels != 3) {
         call<deliver>(wrapped_, rows, row_stride, columns, pixel_stride, channels, channel_stride, data);
         return;

@@ -9,11 +9,12 @@
 
 namespace ox {
 
-/// Replaces the content of a caller's string. A visitor that is never called leaves it as it was.
+/// Replaces the content of a caller's string; a null text is an empty one. A visitor that is never called
+/// leaves the string as it was.
 class stdwstring_visitor final : public string_visitor_impl {
 public:
     explicit stdwstring_visitor(std::wstring& target) : target_(target) {}
-    void visit(const wchar_t* text) override { target_ = text; }
+    void visit(const wchar_t* text) override { target_ = text ? text : L""; }
 
 private:
     std::wstring& target_;
@@ -32,7 +33,7 @@ namespace detail {
 
 /// Turns a colour-keyed image into one with alpha: pixels of the colour that the last row begins with
 /// become transparent, all others opaque. One and three channels come out as four, top row first;
-/// images of other channel counts pass unchanged.
+/// images of other channel counts pass unchanged. An image without data is none.
 class key_visitor final : public thrice_interleaved_bytes_visitor_impl {
 public:
     explicit key_visitor(custom_pointer wrapped) : wrapped_(wrapped) {}

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace ox::platform {
 
@@ -15,7 +16,7 @@ namespace ox::platform {
 
 /// Windows code page numbers; 0 is the system's ANSI code page (on POSIX: the locale's character set,
 /// UTF-8 where the locale is "C" or "POSIX"). What the target cannot hold becomes a replacement
-/// character; a code page that the system does not know gives an empty text.
+/// character; a code page that the system does not know gives an empty text. [ui]
 std::wstring to_wide(const char* text, std::size_t length, unsigned code_page);
 std::string to_narrow(const wchar_t* text, std::size_t length, unsigned code_page);
 
@@ -43,8 +44,24 @@ using resource_module = const void*;
 resource_module own_module();    ///< this plug-in
 resource_module basic_module();  ///< the host's "oxk_basic"
 
-/// String resource `id`, or null when there is none. The text lives until the next call.
-const wchar_t* load_string(resource_module module, std::uint32_t id);
+/// A text of a string table: where it stands when the table ends it with a zero, else a copy.
+class resource_text {
+public:
+    resource_text() = default;
+    explicit resource_text(const wchar_t* in_place) : in_place_(in_place) {}
+    explicit resource_text(std::wstring copy) : copy_(std::move(copy)) {}
+
+    /// An empty text counts as none.
+    explicit operator bool() const { return *c_str() != L'\0'; }
+    const wchar_t* c_str() const { return in_place_ ? in_place_ : copy_.c_str(); }
+
+private:
+    const wchar_t* in_place_ = nullptr;
+    std::wstring copy_;
+};
+
+/// String resource `id`; none when the module has no such resource.
+resource_text load_string(resource_module module, std::uint32_t id);
 
 /// Bytes of raw text resource `id` (resource type 260); none when the module has no such resource.
 std::optional<std::string> load_raw_text(resource_module module, std::uint32_t id);

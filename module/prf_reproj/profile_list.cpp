@@ -13,15 +13,15 @@ namespace ox::prf_reproj {
 
 void prf_list::fill(void* scene_collection) {
     rows.clear();
-    const std::uint32_t count = ox_scns_2d_get_size(scene_collection);
+    const std::uint32_t count = scene_collection ? ox_scns_2d_get_size(scene_collection) : 0;
     for (std::uint32_t i = 0; i < count; ++i) {
         void* scene = ox_scns_2d_get(scene_collection, i);
-        void* data = ox_scn_2d_get_prf_data_ptr(scene);
-        if (!data || !ox_prf_data_get_is_profil(data)) continue;
+        void* data = profile_data(scene);
+        if (!data) continue;
         prf_row& row = rows.emplace_back();
         row.scene = scene;
         row.caption = adapted_text([&](void* adapter) { ox_scn_2d_get_wcaption(scene, adapter); });
-        row.pj4 = adapted_text([&](void* adapter) { ox_prf_data_get_prj4string(data, adapter); });
+        row.pj4 = projection_of(data);
         row.differs = differs(row.pj4);
     }
     notify();
@@ -58,6 +58,18 @@ std::vector<projection_suggestion> prf_list::suggestions() const {
     return result;
 }
 
-void* current_scenes() { return ox_prj_get_scns_2d_ptr(ox_prj_get_instance()); }
+void* current_scenes() {
+    void* project = ox_prj_get_instance();
+    return project ? ox_prj_get_scns_2d_ptr(project) : nullptr;
+}
+
+void* profile_data(void* scene) {
+    void* data = scene ? ox_scn_2d_get_prf_data_ptr(scene) : nullptr;
+    return data && ox_prf_data_get_is_profil(data) ? data : nullptr;
+}
+
+std::wstring projection_of(void* data) {
+    return adapted_text([data](void* adapter) { ox_prf_data_get_prj4string(data, adapter); });
+}
 
 }  // namespace ox::prf_reproj

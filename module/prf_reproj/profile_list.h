@@ -35,15 +35,17 @@ struct prf_list {
     std::function<void()> on_changed;  ///< the rows must be drawn anew
     std::function<void(std::vector<projection_suggestion>)> on_suggestions;
 
-    /// Reads the scenes anew; check marks and selection are lost, the target stays.
+    /// Reads the scenes anew; check marks and selection are lost, the target stays. A null collection has
+    /// no scenes.
     void fill(void* scene_collection);
     /// `fill`, then offers the distinct projections of the rows, and no projection, as suggestions.
     void rebuild(void* scene_collection);
     void set_target(std::wstring pj4);
     prf_reproj_job make_job() const;
 
+    /// Who is told may have himself replaced meanwhile.
     void notify() const {
-        if (on_changed) on_changed();
+        if (const auto told = on_changed) told();
     }
 
 private:
@@ -51,7 +53,12 @@ private:
     std::vector<projection_suggestion> suggestions() const;
 };
 
-/// The scene collection of the project that is open in the host.
+/// The scene collection of the project that is open in the host; null while none is.
 void* current_scenes();
+
+/// Profile data of a scene that is a profile, else null.
+void* profile_data(void* scene);
+/// The scene's own proj4 text.
+std::wstring projection_of(void* data);
 
 }  // namespace ox::prf_reproj

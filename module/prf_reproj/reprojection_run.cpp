@@ -8,9 +8,8 @@
 #include "border/host_api/oxk_proj4_d2.h"
 #include "border/host_api/oxk_scn_2d.h"
 #include "platform/platform.h"
-#include "prf_reproj/messages.h"
 #include "resources/text.h"
-#include "support/string_adapter.h"
+#include "toolkit/resource_lookup.h"
 
 namespace ox::prf_reproj {
 
@@ -41,16 +40,6 @@ private:
     void* scene_;
 };
 
-/// Profile data of a scene that is a profile, else null.
-void* profile_data(void* scene) {
-    void* data = ox_scn_2d_get_prf_data_ptr(scene);
-    return data && ox_prf_data_get_is_profil(data) ? data : nullptr;
-}
-
-std::wstring projection_of(void* data) {
-    return adapted_text([data](void* adapter) { ox_prf_data_get_prj4string(data, adapter); });
-}
-
 bool confirmed(reproj_check_state state) {
     switch (state) {
         case reproj_check_state::target_empty:
@@ -64,6 +53,10 @@ bool confirmed(reproj_check_state state) {
 }
 
 }  // namespace
+
+void show_message(std::int32_t text_id) { ox_show_wmessage(resource::string(text_id).c_str()); }
+void show_error(std::int32_t text_id) { ox_show_werror(resource::string(text_id).c_str()); }
+bool ask_yes_no(std::int32_t text_id) { return ox_yesno_wmessage(resource::string(text_id).c_str()); }
 
 bool run_reprojection(prf_list& list) {
     const prf_reproj_job job = list.make_job();
@@ -115,9 +108,11 @@ bool reproject_scene(void* scene, const std::wstring& target_pj4) {
     const reprojector rpj(ox_rpj_d2_create());
     if (!rpj || !ox_rpj_d2_init_w(rpj.get(), source_pj4.c_str(), target_pj4.c_str())) return false;
     if (!ox_rpj_d2_rpj_is_needed(rpj.get())) return true;
+    const void* section_line = ox_prf_data_get_pv_ptr(data);
+    if (!section_line) return false;
     const polyline line(ox_pv_d2_create());  // the scene's own line is never transformed in place
     if (!line) return false;
-    ox_pv_d2_assign(line.get(), ox_prf_data_get_pv_ptr(data));
+    ox_pv_d2_assign(line.get(), section_line);
     if (!ox_rpj_d2_apply_pv(rpj.get(), line.get())) return false;
     ox_prf_data_set_pv(data, line.get());
     ox_prf_data_set_prj4string(data, target_pj4.c_str());

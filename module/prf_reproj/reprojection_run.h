@@ -2,6 +2,7 @@
 /// What the apply button does: checks the chosen scenes, asks where the result is no reprojection, and
 /// reprojects scene by scene until one fails. What is done stays done. [ui]
 
+#include <cstdint>
 #include <string>
 
 #include "prf_reproj/profile_list.h"
@@ -27,5 +28,10 @@ bool reproject_all(const prf_reproj_job& job);
 /// One scene, in its update bracket. A scene or a target without projection takes the target text and
 /// keeps its line; a scene in an equivalent projection stays as it is. False: the scene is unchanged.
 bool reproject_scene(void* scene, const std::wstring& target_pj4);
+
+/// Message boxes of the host, by the id of their text.
+void show_message(std::int32_t text_id);
+void show_error(std::int32_t text_id);
+bool ask_yes_no(std::int32_t text_id);  ///< true for yes
 
 }  // namespace ox::prf_reproj

@@ -2,6 +2,7 @@
 /// The user's favourite projections: the host keeps and stores them, the projection dialog shows them
 /// beside its choices. [ui]
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -28,13 +29,15 @@ public:
     event<void()> list_changed;
     event<void()> selection_changed;
 
-    std::int32_t count() const { return list_ ? ox_pj4_fav_list_get_count(list_.get()) : 0; }
+    std::int32_t count() const;
+    bool has(std::int32_t index) const { return index >= 0 && index < count(); }
     std::int32_t selected() const { return selected_; }  ///< -1 for none
-    std::wstring caption(std::int32_t index) const;
+    std::wstring caption(std::int32_t index) const;      ///< empty for an index that is none
 
     /// Adds what the dialog would return; nothing while that is empty.
     void append();
     void remove_selected();
+    /// A null caption is an empty one.
     void rename(std::int32_t index, const wchar_t* caption);
     /// Makes a favourite the selected one and sets its text into the dialog.
     void choose(std::int32_t index);
@@ -47,6 +50,8 @@ private:
     };
     std::wstring proj4(std::int32_t index) const;
     void select(std::int32_t index);
+    /// The first favourite with the current text, or -1.
+    std::int32_t find_current() const;
 
     std::unique_ptr<void, destroy_list> list_;
     std::int32_t selected_ = -1;
@@ -69,21 +74,26 @@ private:
 };
 
 /// The same small picture in every row.
-class pj4str_column_bitmap final : public bitmap_outline_column_impl {
+class pj4str_column_bitmap final : public toolkit::bitmap_column {
 public:
     static constexpr const wchar_t* id = L"oxk_proj_favorite_outline_bitmap_column";
+    explicit pj4str_column_bitmap(dialog::favourites_model& model)
+        : toolkit::bitmap_column(id), model_(model) {}
     void visit_cell_image(custom_pointer item, custom_pointer bitmap_visitor) override;
+
+private:
+    dialog::favourites_model& model_;
 };
 
 /// The captions, renamed in place.
-class pj4str_column final : public string_outline_column_impl {
+class pj4str_column final : public toolkit::string_column {
 public:
     static constexpr const wchar_t* id = L"oxk_proj_favorite_outline_text_column";
-    explicit pj4str_column(dialog::favourites_model& model) : model_(model) {}
+    explicit pj4str_column(dialog::favourites_model& model) : toolkit::string_column(id), model_(model) {}
 
     void visit_caption(custom_pointer string_visitor) override;
     void visit_cell_text(custom_pointer item, custom_pointer string_visitor) override;
-    bool cell_is_editable(custom_pointer) override { return true; }
+    bool cell_is_editable(custom_pointer item) override;
     void set_cell_text(custom_pointer item, const wchar_t* text) override;
 
 private:
@@ -94,16 +104,18 @@ class proj_favorites_outline final : public toolkit::outline_table {
 public:
     explicit proj_favorites_outline(dialog::favourites_model& model);
 
-    std::uint32_t column_count() override { return 2; }
-    void visit_column(std::uint32_t index, custom_pointer column_visitor) override;
     std::uint32_t row_count() override { return static_cast<std::uint32_t>(model_.count()); }
     std::uint32_t current_row() override { return static_cast<std::uint32_t>(model_.selected()); }
     void set_current_row(std::uint32_t row) override { model_.choose(static_cast<std::int32_t>(row)); }
+
+protected:
+    std::span<toolkit::outline_column* const> columns() override { return columns_; }
 
 private:
     dialog::favourites_model& model_;
     pj4str_column_bitmap picture_;
     pj4str_column caption_;
+    std::array<toolkit::outline_column*, 2> columns_{&picture_, &caption_};
     subscription list_changed_;
     subscription selection_changed_;
 };

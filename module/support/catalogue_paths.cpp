@@ -14,9 +14,7 @@ constexpr char separator = static_cast<char>(std::filesystem::path::preferred_se
 }  // namespace
 
 std::string catalogue_dir() {
-    std::wstring executable;
-    ox_options_get_main_module_path(Tox_std_wstring_adapter(executable).handle());
-    const std::string path = wide_to_system(executable);
+    const std::string path = wide_to_system(adapted_text(ox_options_get_main_module_path));
 
     const std::size_t drive = path.size() > 1 && path[1] == ':' ? 2 : 0;
     const std::size_t name = path.find_last_of("/\\");

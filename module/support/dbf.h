@@ -61,7 +61,8 @@ public:
     /// diagnostics sink only.
     void go_record(std::uint32_t index);
     std::uint32_t current_record() const { return current_; }
-    /// Moves a record between file and buffer; the current record stays the same number.
+    /// Moves a record between file and buffer; the current record stays the same number. Before another
+    /// record is read, a changed one is written back as the record that it was read from.
     void read_record(std::uint32_t index);
     bool write_record(std::uint32_t index);
     /// Adds `count` records of blanks. False, and nothing written, where the file is shorter than its
@@ -103,7 +104,8 @@ private:
     dbf_header header_;
     std::vector<dbf_field> fields_;
     std::uint32_t current_ = no_record;
-    bool dirty_ = false;
+    std::uint32_t buffered_ = no_record;  ///< what `record_` was read from
+    bool dirty_ = false;                  ///< `record_` was changed since
     std::vector<char> record_;
     std::size_t loaded_ = 0;            ///< bytes of the record that the file or a setter gave
     std::array<char, 1000> scratch_{};  ///< holds the last text handed out; columns have 255 bytes at most

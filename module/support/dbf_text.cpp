@@ -65,7 +65,7 @@ const char* format_double(double value, const char* format) { return print_withi
 
 std::optional<std::size_t> find_text(std::span<const std::string> list, const char* text) {
     const auto found =
-        std::ranges::find_if(list, [&](const auto& item) { return equal_no_case(item, text); });
+        std::ranges::find_if(list, [&](const auto& item) { return equal_no_case(item, text ? text : ""); });
     if (found == list.end()) return std::nullopt;
     return static_cast<std::size_t>(found - list.begin());
 }

@@ -1,6 +1,6 @@
 #pragma once
 /// Text helpers of the table layer. A text that one of them returns lies in a buffer that all share and
-/// lives until the next call. [ui]
+/// lives until the next call. A null text reads as "". [ui]
 
 #include <cstdint>
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace ox {
 
-/// Without blanks, carriage returns, tabs and line feeds at both ends; null reads as "".
+/// Without blanks, carriage returns, tabs and line feeds at both ends.
 const char* trim_text(const char* text);
 
 /// Order of the trimmed texts without regard to case; null sorts before every text.

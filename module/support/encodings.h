@@ -19,8 +19,8 @@ struct text_encoding {
 };
 
 /// Rows are addressed by their index. The UTF-16 and UTF-32 rows have no code page of their own and
-/// convert like "SYSTEM". "UTF-32LE" and "UTF-32BE" carry each other's name as alias; other programs
-/// look the table up by alias, so the slip stays.
+/// convert like "SYSTEM". "UTF-32LE" and "UTF-32BE" carry each other's name as alias, under which other
+/// programs look them up.
 inline constexpr std::array<text_encoding, 19> text_encodings{{
     {"UTF-8", "UTF-8", 65001},
     {"UTF-16", "UTF-16", 0},

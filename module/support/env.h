@@ -1,8 +1,10 @@
 #pragma once
-/// The sink that the support layer reports to. At most one is installed; code that has something to say
-/// asks for it at that moment and stays silent when there is none. The module itself installs none. [ui]
+/// The sink that the support layer reports to, and timers that report to it. At most one sink is installed;
+/// code that has something to say asks for it at that moment and stays silent when there is none. The
+/// module itself installs none. [ui]
 
 #include <cstdint>
+#include <string>
 
 namespace ox {
 
@@ -17,7 +19,7 @@ public:
 
     virtual void message(const char* text) = 0;
     virtual void error(const char* text) = 0;
-    virtual void set_debug(bool on) = 0;
+    virtual void set_debug(bool enabled) = 0;
     virtual void debug(const char* text) = 0;
     virtual handle wait_begin(const char* text) = 0;
     virtual void wait_end(handle wait) = 0;
@@ -34,5 +36,12 @@ protected:
 /// The caller owns the sink and removes it (null) before it ends.
 void set_env(Tox_env* sink);
 Tox_env* get_env();
+
+/// Named timers; starting a name again keeps its first start.
+void timer_start(const std::string& name);
+/// Reports "name time(seconds)", whole seconds, or "name time(unknown start)" as a debug line. The start
+/// stays for later stops.
+void timer_stop(const std::string& name);
+void clear_timers();
 
 }  // namespace ox

@@ -12,7 +12,7 @@ class Tox_env_console final : public Tox_env {
 public:
     void message(const char* text) override;
     void error(const char* text) override;
-    void set_debug(bool on) override { debug_ = on; }
+    void set_debug(bool enabled) override { debug_ = enabled; }
     void debug(const char* text) override;
     handle wait_begin(const char* text) override;
     void wait_end(handle wait) override;

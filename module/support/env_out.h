@@ -13,7 +13,7 @@ public:
     struct callbacks {
         void (*message)(void* context, const char* text) = nullptr;
         void (*error)(void* context, const char* text) = nullptr;
-        void (*set_debug)(void* context, bool on) = nullptr;
+        void (*set_debug)(void* context, bool enabled) = nullptr;
         void (*debug)(void* context, const char* text) = nullptr;
         handle (*wait_begin)(void* context, const char* text) = nullptr;
         void (*wait_end)(void* context, handle wait) = nullptr;
@@ -31,7 +31,7 @@ public:
 
     void message(const char* text) override { forward(functions_.message, text); }
     void error(const char* text) override { forward(functions_.error, text); }
-    void set_debug(bool on) override { forward(functions_.set_debug, on); }
+    void set_debug(bool enabled) override { forward(functions_.set_debug, enabled); }
     void debug(const char* text) override { forward(functions_.debug, text); }
     handle wait_begin(const char* text) override { return forward(functions_.wait_begin, text); }
     void wait_end(handle wait) override { forward(functions_.wait_end, wait); }

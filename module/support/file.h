@@ -4,22 +4,26 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <memory>
 #include <string>
 
 namespace ox {
 
-/// Paths are narrow, in the system's code page. Reports name the path by its first character only: the
-/// messages have always handed the wide path to a narrow "%s", and stay so.
+/// Paths are narrow, in the system's code page. Reports name a path by its first character only.
 class Tox_file {
 public:
     static constexpr int success = 0;
     static constexpr int not_opened = 1;
 
+    Tox_file() = default;
+    ~Tox_file() { close(); }
+    Tox_file(const Tox_file&) = delete;
+    Tox_file& operator=(const Tox_file&) = delete;
+
     /// Opens an existing file; a file that is open is closed first.
     int open(const std::string& path, bool read_only);
     /// Creates a file for reading and writing, or empties it.
     int create(const std::string& path);
+    /// What a full disk did not take is reported here at the latest.
     void close();
 
     bool is_open() const { return stream_ != nullptr; }
@@ -36,16 +40,12 @@ public:
     void report_write_error() const;
 
 private:
-    struct closer {
-        void operator()(std::FILE* stream) const { std::fclose(stream); }
-    };
-
     int open_as(const std::string& path, const char* mode);
     bool seek(std::uint64_t offset);
 
     std::wstring path_;
     bool read_only_ = false;
-    std::unique_ptr<std::FILE, closer> stream_;
+    std::FILE* stream_ = nullptr;
     std::uint64_t next_read_ = unknown;  ///< where the stream stands after a read
 
     static constexpr std::uint64_t unknown = ~std::uint64_t{0};

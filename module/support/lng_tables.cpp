@@ -170,8 +170,7 @@ constexpr entry object_statistics[] = {
     {"Density", cp1251<U"Плотность">},
 };
 
-// The Russian texts of reading and writing are interchanged. Users know them so, and callers choose by
-// index: they stay.
+// Callers choose by index. In Russian, reading is spoken of as writing and writing as reading.
 constexpr entry file_messages[] = {
     {"Not enough memory. Size to alloc: %d",
      cp1251<U"Недостаточно свободной памяти. Размер выделяемой памяти: %d">},

@@ -25,7 +25,9 @@ void wide_callback(const wchar_t* text, void* context) {
 Tox_string_adapter_base::Tox_string_adapter_base()
     : handle_(ox_string_adp_create(narrow_callback, wide_callback, this)) {}
 
-Tox_string_adapter_base::~Tox_string_adapter_base() { ox_string_adp_destroy(handle_); }
+Tox_string_adapter_base::~Tox_string_adapter_base() {
+    if (handle_) ox_string_adp_destroy(handle_);
+}
 
 void Tox_std_wstring_adapter::assign_wide(const wchar_t* text) {
     if (text) {

@@ -2,8 +2,8 @@
 /// How the host hands out texts: it calls back into a string adapter, with narrow or with wide text,
 /// whichever it holds.
 ///
-///     std::wstring caption;
-///     ox_scn_2d_get_wcaption(scene, Tox_std_wstring_adapter(caption).handle());
+///     const std::wstring caption =
+///         adapted_text([&](void* adapter) { ox_scn_2d_get_wcaption(scene, adapter); });
 
 #include <string>
 
@@ -20,7 +20,7 @@ public:
     Tox_string_adapter_base(const Tox_string_adapter_base&) = delete;
     Tox_string_adapter_base& operator=(const Tox_string_adapter_base&) = delete;
 
-    /// What host functions take; valid as long as the adapter.
+    /// What host functions take; valid as long as the adapter. Null where the host makes none.
     void* handle() const { return handle_; }
 
 protected:
@@ -45,12 +45,12 @@ private:
 };
 
 /// The text that `deliver` makes a host function hand to the adapter handle it is given; empty when
-/// there is none: `adapted_text([&](void* adapter) { ox_scn_2d_get_wcaption(scene, adapter); })`.
+/// there is none.
 template <class Deliver>
 std::wstring adapted_text(Deliver&& deliver) {
     std::wstring text;
     const Tox_std_wstring_adapter adapter(text);
-    deliver(adapter.handle());
+    if (adapter.handle()) deliver(adapter.handle());
     return text;
 }
 

@@ -52,10 +52,10 @@ bool visit_string(std::int32_t id, custom_pointer string_visitor) {
         return call<&localizer_impl::visit_string>(localizer, static_cast<std::uint32_t>(id), string_visitor);
     const auto [module, number] = place_of(id);
     if (!module) return false;
-    const wchar_t* text = in_host_language(
+    const platform::resource_text text = in_host_language(
         number, [module = module](std::uint32_t n) { return platform::load_string(module, n); });
     if (!text) return false;
-    call<&string_visitor_impl::visit>(string_visitor, text);
+    call<&string_visitor_impl::visit>(string_visitor, text.c_str());
     return true;
 }
 

@@ -34,7 +34,13 @@ scene& state::add(std::wstring caption, std::wstring pj4, line pv) {
     return added;
 }
 
-void state::deliver(void* adapter_handle, const std::wstring& text) const {
+bool state::is_null(const void* handle, const char* function) {
+    if (!handle) given_null.emplace_back(function);
+    return !handle;
+}
+
+void state::deliver(void* adapter_handle, const std::wstring& text) {
+    if (is_null(adapter_handle, "deliver")) return;
     const auto* to = static_cast<const adapter*>(adapter_handle);
     to->wide(text.c_str(), to->context);
 }

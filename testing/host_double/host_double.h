@@ -28,6 +28,7 @@ struct scene {
     line pv;
     bool has_data = true;
     bool profile = true;
+    bool has_line = true;
 };
 
 struct adapter {
@@ -42,7 +43,11 @@ struct favourite {
 };
 
 struct HOST_DOUBLE_API state {
-    std::vector<std::unique_ptr<scene>> scenes;
+    bool project_open = true;
+    bool project_has_scenes = true;
+    bool makes_adapters = true;
+    bool makes_favourites = true;
+    std::vector<std::unique_ptr<scene>> scenes;  ///< a null one is a scene that the host does not hand out
     int language = 50000;
     std::wstring executable = L"/nowhere/host";
     bool answer = true;                          ///< to questions
@@ -55,6 +60,10 @@ struct HOST_DOUBLE_API state {
     std::vector<std::wstring> messages, errors, questions;
     std::vector<double> progress;
     std::map<std::string, int> live;  ///< objects by kind
+
+    /// Functions that were given a null which they are not made for.
+    std::vector<std::string> given_null;
+    bool is_null(const void* handle, const char* function);
 
     /// The host's calls that may refuse are counted; number `refuse` (from 1) does.
     std::size_t refuse = 0;
@@ -69,7 +78,7 @@ struct HOST_DOUBLE_API state {
     std::function<void()> on_refusal;  ///< while it does
 
     scene& add(std::wstring caption, std::wstring pj4, line pv = {{1, 2}, {3, 4}});
-    void deliver(void* adapter_handle, const std::wstring& text) const;
+    void deliver(void* adapter_handle, const std::wstring& text);
     int alive() const;
     bool logged(const std::string& call) const;
 

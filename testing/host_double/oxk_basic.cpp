@@ -6,10 +6,12 @@ using host_double::host;
 
 void* ox_string_adp_create(void (*narrow)(const char*, void*), void (*wide)(const wchar_t*, void*),
                            void* context) {
+    if (!host().makes_adapters) return nullptr;
     ++host().live["adapter"];
     return new host_double::adapter{narrow, wide, context};
 }
 void ox_string_adp_destroy(void* adapter) {
+    if (host().is_null(adapter, __func__)) return;
     --host().live["adapter"];
     delete static_cast<host_double::adapter*>(adapter);
 }

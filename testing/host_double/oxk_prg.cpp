@@ -11,6 +11,7 @@ void* ox_pv_d2_create(void) {
     return new line;
 }
 void ox_pv_d2_assign(void* destination, const void* source) {
+    if (host().is_null(destination, __func__) || host().is_null(source, __func__)) return;
     *static_cast<line*>(destination) = *static_cast<const line*>(source);
 }
 void ox_pv_d2_destroy(void* pv) {

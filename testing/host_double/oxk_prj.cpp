@@ -2,5 +2,9 @@
 
 #include "testing/host_double/host_double.h"
 
-void* ox_prj_get_instance(void) { return &host_double::host(); }
-void* ox_prj_get_scns_2d_ptr(void* project) { return &static_cast<host_double::state*>(project)->scenes; }
+using host_double::host;
+
+void* ox_prj_get_instance(void) { return host().project_open ? &host() : nullptr; }
+void* ox_prj_get_scns_2d_ptr(void* project) {
+    return !host().is_null(project, __func__) && host().project_has_scenes ? &host().scenes : nullptr;
+}

@@ -21,7 +21,10 @@ struct reprojector {
 };
 
 using favourite_items = std::vector<favourite>;
-favourite_items& items(void* list) { return *static_cast<favourite_items*>(list); }
+favourite_items& items(void* list) {
+    static favourite_items none;
+    return host().is_null(list, "ox_pj4_fav") ? none : *static_cast<favourite_items*>(list);
+}
 favourite* item(void* list, std::int32_t index) {
     auto& all = items(list);
     return index >= 0 && static_cast<std::size_t>(index) < all.size() ? &all[static_cast<std::size_t>(index)]
@@ -58,6 +61,7 @@ void ox_pj4_save_simple_w(const wchar_t* path, const wchar_t* proj4) { save("pj4
 void ox_pj4_export_esri_prj(const wchar_t* proj4, const wchar_t* path) { save("prj", path, proj4); }
 
 void* ox_pj4_fav_list_create(void) {
+    if (!host().makes_favourites) return nullptr;
     ++host().live["favourites"];
     return new favourite_items;
 }

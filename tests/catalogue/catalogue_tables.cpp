@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "proj_objects.h"
 #include "support/text.h"
 
 namespace catalogue_test {
@@ -54,6 +55,17 @@ const ox::Tox_pj_ellps& ellps_of(const ox::Tox_pj_datum& datum) {
     return *ellps;
 }
 
+const ox::Tox_pj_ellps& ellps_of_system(const std::string& source) {
+    const auto code = code_after("EPSG:", source);
+    const auto crs = epsg(code.value_or("4258"), PJ_CATEGORY_CRS);
+    const proj_object ellipsoid(proj_get_ellipsoid(PJ_DEFAULT_CTX, crs.get()));
+    double a = 0, rf = 0;
+    proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, ellipsoid.get(), &a, nullptr, nullptr, &rf);
+    const auto* ellps = find_ellps_by_axes(built().ellps, a, {}, rf);
+    if (!ellps) throw std::runtime_error(source + " has an ellipsoid that is not there");
+    return *ellps;
+}
+
 std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& inputs,
                     const ox::Tox_pj_datum* datum, const ox::Tox_pj_ellps* ellps) {
     ox::Tox_proj4_params text;
@@ -90,6 +102,11 @@ ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record) {
         (inputs.*p.parameter).set_value(within ? p.plausible : (slot.min + slot.max) / 2);
     }
     return inputs;
+}
+
+double named_meridian(const ox::Tox_pj_proj& zone) {
+    const std::string& name = zone.zone_n.text;
+    return proj_todeg(proj_dmstor(name.c_str() + name.find("CM") + 2, nullptr));
 }
 
 }  // namespace catalogue_test

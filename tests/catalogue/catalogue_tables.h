@@ -21,6 +21,9 @@ const tables& built();
 /// The ellipsoid of a datum.
 const ox::Tox_pj_ellps& ellps_of(const ox::Tox_pj_datum& datum);
 
+/// The ellipsoid of the EPSG system that a source names; GRS 1980 for every other source.
+const ox::Tox_pj_ellps& ellps_of_system(const std::string& source);
+
 /// What the projection dialog composes from a record when its inputs hold the values of `inputs`.
 /// Null leaves datum or ellipsoid out.
 std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& inputs,
@@ -28,5 +31,8 @@ std::string compose(const ox::Tox_pj_proj& record, const ox::Tox_proj4_params& i
 
 /// Values that a person might enter, within the record's limits.
 ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record);
+
+/// 39 of a zone "7 (CM 39E)", -171 of "2N (CM 171W)", 23.5 of "X1 (CM 23d30'E)".
+double named_meridian(const ox::Tox_pj_proj& zone);
 
 }  // namespace catalogue_test

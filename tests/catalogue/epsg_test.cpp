@@ -116,7 +116,7 @@ TEST(CatalogueDatums, NumbersAreThoseOfTheEpsgOperation) {
     }
 }
 
-TEST(CatalogueDatums, EllipsoidIsThatOfTheEpsgOperation) {
+TEST(CatalogueDatums, EllipsoidAndSystemAreThoseOfTheEpsgOperation) {
     for (std::size_t row = 0; row < built().datums.size(); ++row) {
         const auto& datum = built().datums[row];
         const auto code = code_after("EPSG:", built().sources.datums[row].source);
@@ -129,6 +129,15 @@ TEST(CatalogueDatums, EllipsoidIsThatOfTheEpsgOperation) {
         const auto& ellps = ellps_of(datum);
         EXPECT_NEAR(ellps.a, a, millimetre) << datum.name;
         EXPECT_NEAR(ellps.has_b ? ellps.b : ellps.a * (1 - 1 / ellps.rf), b, millimetre) << datum.name;
+
+        const auto datum_name = [](const PJ* of) {
+            return std::string(
+                proj_get_name(proj_object(proj_crs_get_datum_forced(PJ_DEFAULT_CTX, of)).get()));
+        };
+        const auto& systems = built().sources.datums[row].systems;
+        ASSERT_FALSE(systems.empty()) << datum.name;
+        const auto system = epsg(systems.front().substr(5), PJ_CATEGORY_CRS);
+        EXPECT_EQ(datum_name(system.get()), datum_name(crs.get())) << datum.name;
     }
 }
 
@@ -167,12 +176,6 @@ void expect_same_projection(const PJ* expected_crs, const std::string& text, dou
     EXPECT_NEAR(actual->y, expected->y, millimetre) << what << ": " << text;
 }
 
-/// 39 of "7 (CM 39E)", -171 of "2N (CM 171W)".
-double named_meridian(const std::string& zone_name) {
-    const auto degrees = ox::scan_double(zone_name.substr(zone_name.find("CM") + 2)).value();
-    return zone_name.ends_with("W)") ? -degrees : degrees;
-}
-
 TEST(CatalogueZones, ProjectAsTheirEpsgSystems) {
     for (std::size_t row = 0; row < built().zonal.size(); ++row) {
         const auto& record = built().zonal[row];
@@ -183,7 +186,7 @@ TEST(CatalogueZones, ProjectAsTheirEpsgSystems) {
         ASSERT_TRUE(crs) << source.source;
         const auto* datum = find_datum_by_name(built().datums, record.datum.text);
         ASSERT_TRUE(datum) << record.name;
-        const double meridian = named_meridian(record.zone_n.text);
+        const double meridian = named_meridian(record);
         const auto middle = project(crs.get(), meridian, 0);
         ASSERT_TRUE(middle) << source.source;
         EXPECT_NEAR(middle->x, record.x_0.used ? record.x_0.value : 500000, millimetre)
@@ -220,14 +223,9 @@ TEST(CatalogueUsualProjections, MeanWhatTheirSourceSays) {
             proj_coordoperation_get_method_info(PJ_DEFAULT_CTX, conversion.get(), nullptr, nullptr, &method);
             EXPECT_EQ(method, *code) << text;
         } else if (const auto system = code_after("EPSG:", source)) {
-            const auto crs = epsg(*system, PJ_CATEGORY_CRS);
-            const proj_object ellipsoid(proj_get_ellipsoid(PJ_DEFAULT_CTX, crs.get()));
-            double a = 0, rf = 0;
-            proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, ellipsoid.get(), &a, nullptr, nullptr, &rf);
-            ox::Tox_proj4_params no_shift;
-            expect_same_projection(
-                crs.get(), compose(record, no_shift, nullptr, find_ellps_by_axes(built().ellps, a, {}, rf)),
-                record.lon_0.value + 1, record.lat_0.value + 1, source);
+            expect_same_projection(epsg(*system, PJ_CATEGORY_CRS).get(),
+                                   compose(record, {}, nullptr, &ellps_of_system(source)),
+                                   record.lon_0.value + 1, record.lat_0.value + 1, source);
         }
     }
 }

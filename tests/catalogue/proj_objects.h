@@ -29,15 +29,19 @@ inline proj_object crs_of_text(const std::string& proj4) {
     return proj_object(proj_create(PJ_DEFAULT_CTX, (proj4 + " +type=crs").c_str()));
 }
 
-/// Easting and northing of a place, given in degrees on the CRS's own datum.
-inline std::optional<PJ_XY> project(const PJ* crs, double longitude, double latitude) {
-    if (!crs) return std::nullopt;
+/// From degrees on the CRS's own datum, longitude first, to easting and northing.
+inline proj_object way_into(const PJ* crs) {
     const proj_object base(proj_crs_get_geodetic_crs(PJ_DEFAULT_CTX, crs));
     const proj_object plain(
         proj_create_crs_to_crs_from_pj(PJ_DEFAULT_CTX, base.get(), crs, nullptr, nullptr));
-    if (!plain) return std::nullopt;
-    const proj_object xy(proj_normalize_for_visualization(PJ_DEFAULT_CTX, plain.get()));
-    const PJ_COORD out = proj_trans(xy.get(), PJ_FWD, proj_coord(longitude, latitude, 0, 0));
+    return proj_object(plain ? proj_normalize_for_visualization(PJ_DEFAULT_CTX, plain.get()) : nullptr);
+}
+
+/// Easting and northing of a place, given in degrees on the CRS's own datum.
+inline std::optional<PJ_XY> project(const PJ* crs, double longitude, double latitude) {
+    const proj_object way = way_into(crs);
+    if (!way) return std::nullopt;
+    const PJ_COORD out = proj_trans(way.get(), PJ_FWD, proj_coord(longitude, latitude, 0, 0));
     if (!std::isfinite(out.xy.x)) return std::nullopt;
     return out.xy;
 }

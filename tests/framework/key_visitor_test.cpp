@@ -58,5 +58,12 @@ INSTANTIATE_TEST_SUITE_P(
         key_case{"FourChannelsPass", 4, 4, {1, 2, 3, 4, 1, 2, 3, 4}, 0, {1, 2, 3, 4, 1, 2, 3, 4}}),
     case_name);
 
+TEST(KeyVisitorOutside, AnImageWithoutDataIsNone) {
+    image_sink sink;
+    detail::key_visitor visitor(make_pointer<thrice_interleaved_bytes_visitor_impl>(sink));
+    visitor.visit(2, 6, 2, 3, 3, 1, nullptr);
+    EXPECT_EQ(sink.calls, 0);
+}
+
 }  // namespace
 }  // namespace ox

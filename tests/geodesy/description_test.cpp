@@ -26,11 +26,11 @@ TEST(Description, ShortOnesFitOneLine) {
     const struct {
         std::string text, english, russian;
     } cases[] = {
-        {"", "Projection is not defined", "Проекция не задана"},
+        {"", "Projection is not defined", "Проекция не определена"},
         {texts::refused, "Invalid projection: utm: Invalid value for zone",
          "Неверная проекция: utm: Invalid value for zone"},
         {"+proj=tmerc +lon_0=-171 +x_0=32500000 +ellps=krass", "Gauss-Krüger, zone 32, Krassowsky 1940",
-         "Гаусса - Крюгера, зона 32, Красовского 1940"},
+         "Гаусса – Крюгера, зона 32, Красовского 1940"},
         {"+proj=tmerc +lon_0=39 +x_0=6500000 +ellps=krass", "Transverse Mercator, 39°, Krassowsky 1940",
          "Поперечная Меркатора, 39°, Красовского 1940"},
         {"+proj=wintri +R=6371000", "Winkel Tripel, own ellipsoid", "Winkel Tripel, свой эллипсоид"}};

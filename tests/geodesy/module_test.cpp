@@ -31,7 +31,7 @@ const wchar_t* const bad = L"+proj=utm +zone=99 +datum=WGS84";
 TEST(Module, DeliversTextsInTheUsersLanguage) {
     choose_language(language::russian);
     EXPECT_EQ(delivered([](void* to) { ox_pj4_get_short_text_w(utm, to); }), L"UTM, зона 37 север, WGS84");
-    EXPECT_EQ(delivered([](void* to) { ox_pj4_get_text_w(nullptr, to); }), L"Проекция не задана");
+    EXPECT_EQ(delivered([](void* to) { ox_pj4_get_text_w(nullptr, to); }), L"Проекция не определена");
     choose_language(language::english);
     EXPECT_EQ(delivered([](void* to) { ox_pj4_get_text_w(L"", to); }), L"Projection is not defined");
     choose_language({});

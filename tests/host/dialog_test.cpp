@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include "oxhost_run.h"
 
 namespace {
@@ -68,6 +70,71 @@ TEST(Catalogue, ListsWhatTheDialogsOffer) {
               "Krassowsky 1940  6378245, 298.3\n");
     EXPECT_NE(box.oxhost({"catalogue", "zones", "--find", "40n"}).out.find("UTM North  40N"),
               std::string::npos);
+}
+
+TEST(Catalogue, FindsByFurtherNamesAndCodes) {
+    const sandbox box;
+    const struct {
+        const char *part, *sought, *begins, *ends;
+    } cases[] = {
+        {"projections", "hotine", "Oblique Mercator  (",
+         "Hotine Oblique Mercator variant B; EPSG method 9815]\n"},
+        {"projections", "Postel", "Azimuthal Equidistant  (", "  [Postel]\n"},
+        {"zones", "СК-63", "SK-63 district A, Pulkovo 1942 (GOST)  A1 (CM 41d32'E)", "  [CS63; СК-63]\n"},
+        {"zones", "sk-95", "Gauss-Kruger 6 deg, Pulkovo 1995  4 (", "  [SK-95; СК-95]\n"},
+        {"zones", "28407", "Gauss-Kruger 6 deg, Pulkovo 1942 (GOST)  7 (CM 39E)", "  [EPSG:28407]\n"},
+        {"zones", "epsg:2935", "SK-63 district A, Pulkovo 1942 (GOST)  A1 (CM 41d32'E)", "  [EPSG:2935]\n"},
+        {"datums", "EPSG:4289", "Amersfoort  Bessel 1841  565.4171,",
+         "-0.398957388243, 0.343987817378, "
+         "-1.87740163998, 4.0725  [EPSG:4289]\n"},
+        {"ellipsoids", "7024", "Krassowsky 1940  6378245, 298.3", "  [EPSG:7024]\n"},
+    };
+    for (const auto& [part, sought, begins, ends] : cases) {
+        const auto run = box.oxhost({"catalogue", part, "--find", sought});
+        EXPECT_EQ(run.code, 0) << sought << run.error;
+        EXPECT_TRUE(run.out.starts_with(begins)) << sought << '\n' << run.out;
+        EXPECT_TRUE(run.out.ends_with(ends)) << sought << '\n' << run.out;
+    }
+    for (const char* sought : {"2840", "EPSG:2840", "EPSG:9840", "Mercatorial"}) {
+        const auto run = box.oxhost({"catalogue", "--find", sought});
+        EXPECT_EQ(run.code, 2) << sought;
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.error, std::string("oxhost: nothing in the catalogue is called \"") + sought + "\"\n");
+    }
+}
+
+TEST(Catalogue, NamesTheIndexThatIsMissing) {
+    const sandbox box;
+    const fs::path program = OXHOST_PROGRAM;
+    fs::copy_file(program, box.path("alone"));
+    const auto run = box.oxhost({}, "en",
+                                "LD_LIBRARY_PATH='" + program.parent_path().string() +
+                                    "' ./alone catalogue --find UTM 2>alone.error; exit $?;");
+    EXPECT_EQ(run.code, 66);
+    EXPECT_EQ(box.bytes("alone.error"),
+              "oxhost: " + box.path("prj_def/pj_index.tsv").string() + ": cannot be opened\n");
+}
+
+/// The program and what lies beside it, started from a folder whose name is Cyrillic in the bytes of one
+/// character set or another.
+TEST(Catalogue, IsFoundInACyrillicFolder) {
+    constexpr auto locale = "ru_RU.CP1251";
+    if (!std::setlocale(LC_CTYPE, locale)) GTEST_SKIP() << "no locale " << locale;
+    std::setlocale(LC_CTYPE, "C");
+    for (const char* name : {"\xCF\xE0\xEF\xEA\xE0", "Папка"}) {
+        const sandbox box;
+        const fs::path program(OXHOST_PROGRAM), folder = box.path(name);
+        fs::create_directory(folder);
+        for (const auto& entry : fs::directory_iterator(program.parent_path()))
+            fs::create_symlink(entry.path(), folder / entry.path().filename());
+        fs::remove(folder / program.filename());
+        fs::copy(program, folder / program.filename());
+        const std::string run = std::string("LC_ALL=") + locale + " '" +
+                                (folder / program.filename()).string() +
+                                "' catalogue ellipsoids --find KRASS >.out 2>.error; exit 0;";
+        box.oxhost({}, "en", run);
+        EXPECT_TRUE(box.bytes(".out").starts_with("Krassowsky 1940")) << box.bytes(".error");
+    }
 }
 
 TEST(Describe, TellsCodeEllipsoidDatumAndWarnings) {

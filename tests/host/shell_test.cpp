@@ -1,5 +1,6 @@
 /// The shell in this process, over the real plug-in and a small project.
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include "headless/scripted_user.h"
@@ -30,10 +31,11 @@ protected:
     }
     ~Shell() override { oxhost::set_current_project(nullptr); }
 
-    /// Opens the utility's dialog and lets `act` work in it.
+    /// Opens the utility's dialog and lets `act` work in it; afterwards nothing of the plug-in is left.
     void in_utility(oxhost::headless::scripted_user::act act) {
         user_.in_dialog(utility, std::move(act));
         bundle_host(OXHOST_BUNDLE, user_).run(utility);
+        EXPECT_FALSE(dlopen(OXHOST_BUNDLE, RTLD_LAZY | RTLD_NOLOAD)) << "still mapped";
     }
 
     sandbox box_;

@@ -4,10 +4,11 @@
 
 #include <algorithm>
 
-#include "prf_reproj/prf_tools.h"
+#include "framework/value_visitors.h"
 #include "prf_reproj/profile_list.h"
 #include "prf_reproj/profile_table.h"
 #include "prf_reproj/reprojection_run.h"
+#include "prf_reproj/widget.h"
 #include "testing/case_name.h"
 #include "testing/host_double/host_double.h"
 
@@ -26,7 +27,10 @@ const host_double::line moved{{101, 202}, {103, 204}};
 class Run : public testing::Test {
 protected:
     void SetUp() override { host_double::reset(); }
-    void TearDown() override { EXPECT_EQ(host().alive(), 0); }
+    void TearDown() override {
+        EXPECT_EQ(host().alive(), 0);
+        EXPECT_EQ(host().given_null, strings{});
+    }
 
     void list_all(const std::wstring& target) {
         list.rebuild(current_scenes());
@@ -78,7 +82,10 @@ TEST_F(Run, ReprojectsInOrderInsideEachScenesBracket) {
     host().add(L"a", longlat);
     host().add(L"b", longlat);
     list_all(utm);
+    int changes = 0;
+    list.on_changed = [&] { ++changes; };
     EXPECT_FALSE(run());
+    EXPECT_EQ(changes, 1);
     EXPECT_EQ(host().log,
               (strings{"progress 0", "begin a", "rpj", "init", "pv", "apply", "line a", "text a", "end a",
                        "begin b", "rpj", "init", "pv", "apply", "line b", "text b", "end b"}));
@@ -179,6 +186,41 @@ TEST_F(Run, ASceneThatVanishesMeanwhileFailsOutsideABracket) {
     EXPECT_FALSE(host().logged("begin a"));
 }
 
+TEST_F(Run, AHostWithoutAnOpenProjectHasNoScenes) {
+    host().add(L"a", longlat);
+    for (bool host_double::state::*missing :
+         {&host_double::state::project_open, &host_double::state::project_has_scenes}) {
+        list_all(utm);
+        EXPECT_EQ(list.rows.size(), 1u);
+        host().*missing = false;
+        list_all(utm);
+        EXPECT_TRUE(list.rows.empty());
+        host().*missing = true;
+    }
+    host().scenes.push_back(nullptr);
+    list_all(utm);
+    EXPECT_EQ(list.rows.size(), 1u);
+    host().makes_adapters = false;
+    list_all(utm);
+    EXPECT_EQ(list.rows[0].pj4, L"");
+}
+
+TEST_F(Run, AProfileWithoutALineFailsWhereALineIsToMove) {
+    for (const wchar_t* caption : {L"a", L"b", L"c"})
+        host().add(caption, longlat).has_line = *caption != L'b';
+    list_all(utm);
+    run();
+    EXPECT_EQ(host().errors, texts{L"Reprojection error"});
+    EXPECT_EQ(host().scenes[0]->pj4, utm);
+    EXPECT_EQ(host().scenes[1]->pj4, longlat);
+    EXPECT_EQ(host().scenes[2]->pj4, longlat);
+
+    list_all(L"");  // where only the texts are set it does not matter
+    run();
+    EXPECT_EQ(host().messages, texts{L"Reprojection complete"});
+    EXPECT_EQ(host().scenes[1]->pj4, L"");
+}
+
 // ---- The table over the list ----
 
 custom_pointer item(toolkit::outline_table_item_index&& index) {
@@ -203,6 +245,29 @@ TEST_F(Run, ACheckBoxOfASelectedRowStandsForTheSelection) {
     EXPECT_TRUE(checks.state({}));  // the root counts as row 0
 }
 
+TEST_F(Run, WhereThereIsNoRowStandsAnEmptyOne) {
+    for (const int rows : {0, 1}) {
+        if (rows) host().add(L"a", longlat);
+        list_all(utm);
+        element::detail::prf_outline table(list);
+        element::detail::prf_check checks(list);
+        element::detail::prf_projection_column column(list);
+        for (const bool root : {true, false}) {
+            if (root && rows) continue;  // the root is row 0
+            toolkit::outline_table_item_index beyond(rows ? 0xFFFFFFFF : 0);
+            const custom_pointer item =
+                root ? custom_pointer{} : make_pointer<outline_item_index_impl>(beyond);
+            table.set_selected(item, true);
+            table.set_current_item(item);
+            checks.set_state(item, true);
+            EXPECT_FALSE(table.is_selected(item) || checks.state(item));
+            EXPECT_FALSE(column.highlight(item) || column.sorts_after(item, item));
+            EXPECT_EQ(read_text([&](custom_pointer v) { column.visit_cell_text(item, v); }), L"");
+            EXPECT_EQ(read_text([&](custom_pointer v) { column.visit_cell_hint(item, v); }), L"");
+        }
+    }
+}
+
 TEST_F(Run, ColumnsSortByCodeUnits) {
     // In the order in which they sort.
     for (const wchar_t* caption : {L"", L"A", L"AB", L"a", L"Б"}) host().add(caption, utm);
@@ -216,6 +281,8 @@ TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
     for (const wchar_t* caption : {L"a", L"b", L"c"}) host().add(caption, utm);
     list.rebuild(current_scenes());
     list.rows[1].selected = true;
+    int changes = 0;
+    list.on_changed = [&] { ++changes; };
     element::detail::prf_tools tools(list);
     struct clicker : tool_set_visitor_impl {
         std::wstring wanted;
@@ -225,7 +292,9 @@ TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
     } clicker;
     const auto click = [&](const wchar_t* id) {
         clicker.wanted = id;
+        const int before = changes;
         tools.visit_tools({make_pointer<tool_set_visitor_impl>(clicker), 0, nullptr});
+        EXPECT_EQ(changes, before + 1);
         return checked();
     };
     EXPECT_EQ(click(L"oxk_scn2d_prf_reproj_select_tool"), 3);

@@ -19,12 +19,14 @@ using host_double::host;
 
 /// The host's dialogs, attached to the places where the module looks for them.
 struct dialogs : dialog_host_impl {
-    std::wstring path;  ///< answer to the file dialog; empty cancels
+    std::wstring path;             ///< answer to the file dialog; empty cancels
+    bool cancels_by_null = false;  ///< instead of not answering at all
     std::function<bool(custom_pointer docker, custom_pointer buttons)> user;
 
     void ask_file(std::int32_t, const wchar_t* filter, custom_pointer visitor) override {
         EXPECT_TRUE(std::wstring(filter).ends_with(L"(*.prj)|*.prj"));
         if (!path.empty()) call<&string_visitor_impl::visit>(visitor, path.c_str());
+        if (path.empty() && cancels_by_null) call<&string_visitor_impl::visit>(visitor, nullptr);
     }
     bool show_modal(custom_pointer docker, custom_pointer buttons) override {
         return user && user(docker, buttons);
@@ -136,6 +138,8 @@ TEST_F(Elements, Proj4InputLoadsSavesAndDescribes) {
     subscription heard(input.changed(), [&] { ++changes; });
     EXPECT_EQ(description_of(input), L"No projection is defined");
     press(input, 1);  // a cancelled file dialog
+    host_dialogs.cancels_by_null = true;
+    press(input, 1);
     host_dialogs.path = L"unknown.pj4";
     press(input, 1);  // nothing in it
     EXPECT_EQ(changes, 0);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "framework/value_visitors.h"
 #include "projection/projection_dialog.h"
 #include "small_catalogue.h"
 #include "support/encodings.h"
@@ -186,6 +187,123 @@ TEST_F(Dialog, FavouritesFollowTheText) {
     EXPECT_EQ(host().log, (std::vector<std::string>{"delete favourite 1", "delete favourite -1"}));
     ASSERT_EQ(host().favourites.size(), 3u);
     EXPECT_EQ(host().favourites[2].caption, L"new");
+}
+
+struct outline_finder : element_visitor_impl {
+    custom_pointer found{};
+    void outline(custom_pointer element) override { found = element; }
+};
+
+struct column_finder : outline_column_visitor_impl {
+    custom_pointer picture{}, caption{};
+    std::wstring ids;
+    void visit_bitmap_column(custom_pointer column, const wchar_t* id) override {
+        picture = column, ids += id;
+    }
+    void visit_string_column(custom_pointer column, const wchar_t* id) override {
+        caption = column, ids += id;
+    }
+};
+
+/// The list of favourites as the host sees it.
+struct favourites_seen {
+    explicit favourites_seen(dialog::favourites_model& model) : area(model) {
+        outline_finder outline;
+        area.visit_cell(0, 1, make_pointer<element_visitor_impl>(outline));
+        table = outline.found;
+        for (std::uint32_t i = 0; i < call<&outline_impl::column_count>(table) + 1; ++i)
+            call<&outline_impl::visit_column>(table, i, make_pointer<outline_column_visitor_impl>(columns));
+    }
+    bool has_picture(custom_pointer item) {
+        struct counter : bitmap_visitor_impl {
+            int count = 0;
+            void visit(custom_pointer) override { ++count; }
+        } pictures;
+        call<&bitmap_outline_column_impl::visit_cell_image>(columns.picture, item,
+                                                            make_pointer<bitmap_visitor_impl>(pictures));
+        return pictures.count > 0;
+    }
+    std::wstring text(custom_pointer item) {
+        return read_text([&](custom_pointer v) {
+            call<&string_outline_column_impl::visit_cell_text>(columns.caption, item, v);
+        });
+    }
+
+    element::proj_favorites area;
+    column_finder columns;
+    custom_pointer table{};
+};
+
+TEST_F(Dialog, AHostMayHaveNoFavouritesList) {
+    host().makes_favourites = false;
+    dialog::favourites_model model;
+    model.current_text = [] { return std::wstring(L"+proj=longlat"); };
+    favourites_seen seen(model);
+    EXPECT_EQ(seen.text({}), L"");
+    model.append();
+    model.rename(0, L"new");
+    model.remove_selected();
+    model.choose(0);
+    EXPECT_EQ(model.selected(), -1);
+    EXPECT_TRUE(host().given_null.empty());
+}
+
+TEST_F(Dialog, WhereThereIsNoFavouriteStandsAnEmptyRow) {
+    for (const bool any : {false, true}) {
+        if (any) host().favourites = {{L"one", L"+proj=longlat"}};
+        dialog::favourites_model model;
+        model.current_text = [] { return std::wstring(); };
+        model.apply_text = [](const std::wstring& pj4) { FAIL() << wide_to_utf8(pj4); };
+        favourites_seen seen(model);
+        toolkit::outline_table_item_index beyond(any ? 1 : 0);
+        for (const custom_pointer item : {custom_pointer{}, make_pointer<outline_item_index_impl>(beyond)}) {
+            const bool there = any && !item;  // the root is row 0
+            EXPECT_EQ(seen.text(item), there ? L"one" : L"");
+            EXPECT_EQ(seen.has_picture(item), there);
+            EXPECT_EQ(call<&string_outline_column_impl::cell_is_editable>(seen.columns.caption, item), there);
+            if (there) continue;
+            call<&string_outline_column_impl::set_cell_text>(seen.columns.caption, item, L"renamed");
+            call<&outline_impl::set_current_item>(seen.table, item);
+            EXPECT_FALSE(call<&outline_impl::is_selected>(seen.table, item));
+            EXPECT_EQ(model.selected(), -1);
+        }
+    }
+    EXPECT_EQ(host().favourites[0].caption, L"one");
+}
+
+TEST_F(Dialog, TheFavouritesTellOfEachActionOnce) {
+    struct counting_view : outline_view_slots {
+        std::string told;
+        void refresh() override { told += "rows "; }
+        void selection_changed() override { told += "selection "; }
+    } view;
+    host().favourites = {{L"one", L"+proj=longlat"}, {L"two", L"+proj=utm"}};
+    dialog::favourites_model model;
+    std::wstring text = L"+proj=lcc";
+    model.current_text = [&] { return text; };
+    model.apply_text = [&](const std::wstring& pj4) { text = pj4, model.reselect(); };
+    favourites_seen seen(model);
+    EXPECT_EQ(seen.columns.ids,
+              L"oxk_proj_favorite_outline_bitmap_columnoxk_proj_favorite_outline_text_column");
+    call<&outline_impl::attach_view>(seen.table, make_pointer<outline_view_slots>(view));
+    const auto told_by = [&](auto act) {
+        view.told.clear();
+        act();
+        return view.told;
+    };
+    toolkit::outline_table_item_index second(1);
+    const custom_pointer item = make_pointer<outline_item_index_impl>(second);
+    EXPECT_EQ(told_by([&] { model.append(); }), "rows selection ");
+    EXPECT_EQ(told_by([&] { call<&outline_impl::set_current_item>(seen.table, item); }), "selection ");
+    EXPECT_EQ(told_by([&] {
+                  call<&string_outline_column_impl::set_cell_text>(seen.columns.caption, item, nullptr);
+              }),
+              "rows ");
+    EXPECT_EQ(model.caption(1), L"");
+    EXPECT_EQ(told_by([&] { model.remove_selected(); }), "rows selection ");
+    EXPECT_EQ(told_by([&] { model.remove_selected(); }), "rows ");  // nothing was selected
+    text.clear();
+    EXPECT_EQ(told_by([&] { model.append(); }), "selection ");
 }
 
 }  // namespace

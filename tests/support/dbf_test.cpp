@@ -7,6 +7,7 @@
 #include "dbf_builder.h"
 #include "recording_env.h"
 #include "support/dbf_text.h"
+#include "support/file.h"
 #include "support/lng_tables.h"
 #include "testing/case_name.h"
 
@@ -141,6 +142,50 @@ TEST(Dbf, FailuresAreReportedInTheUsersLanguageWithTheFirstLetterOfThePath) {
     const std::vector<ox::Tox_dbf_field_def> too_many(3000);
     EXPECT_EQ(table.dbf_create(dbf_builder::write(""), too_many, 0), 1);
 }
+
+TEST(Dbf, ARawReadKeepsChangedRecordsApart) {
+    const auto path = dbf_builder::write("");
+    const ox::Tox_dbf_field_def columns[] = {{"A", 'C', 4}};
+    {
+        ox::Tox_dbf table;
+        ASSERT_EQ(table.dbf_create(path, columns, 4), 0);
+        table.go_record(0);
+        table.set_text(0, "zero");
+        table.read_record(1);
+        EXPECT_EQ(table.current_record(), 0u);
+        EXPECT_STREQ(table.get_text(0), "    ");
+        table.set_text(0, "one");
+        table.go_record(0);
+        EXPECT_STREQ(table.get_text(0), "zero");
+        table.set_text(0, "null");
+        table.write_record(3);  // a copy; record 0 is still to be written
+    }
+    EXPECT_EQ(contents(path).substr(65), " null one       null\x1A");
+}
+
+TEST(Dbf, SettingAColumnThatIsNotThereChangesNothing) {
+    recording_env reported;
+    ox::Tox_dbf table;
+    ASSERT_EQ(table.dbf_open(dbf_builder().column("A", 'C', 2).row({"1"}).write(), true), 0);
+    table.go_record(0);
+    table.set_text(1, "x");
+    table.set_raw_double(7, 1);
+    table.dbf_close();
+    EXPECT_TRUE(reported.errors.empty());
+}
+
+#ifdef __linux__
+TEST(Dbf, AFullDiskIsReportedAtTheLatestWhenTheFileCloses) {
+    recording_env reported;
+    {
+        ox::Tox_file file;
+        ASSERT_EQ(file.create("/dev/full"), ox::Tox_file::success);
+        EXPECT_TRUE(file.write(0, "buffered", 8));
+        EXPECT_TRUE(reported.errors.empty());
+    }
+    EXPECT_EQ(reported.errors, std::vector<std::string>{"Error writing file: \"/\""});
+}
+#endif
 
 TEST(DbfText, Helpers) {
     EXPECT_STREQ(ox::trim_text(" \r\t\na b\n "), "a b");

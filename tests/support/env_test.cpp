@@ -6,7 +6,6 @@
 #include "recording_env.h"
 #include "support/env_console.h"
 #include "support/lng_tables.h"
-#include "support/timers.h"
 #include "testing/case_name.h"
 
 namespace {

@@ -92,6 +92,5 @@ TEST(Dropdown, SpeaksOfNothingCurrentWhereAValueIsUnknown) {
     EXPECT_EQ(list.current(), 0xFFFFFFFFu);
     EXPECT_FALSE(list.current_value());
 }
-
 }  // namespace
 }  // namespace ox::toolkit

@@ -40,5 +40,16 @@ TEST(OutlineTable, IsFlatAndItsRootStandsForRowZero) {
     EXPECT_EQ(table.chosen, 0u);
 }
 
+TEST(OutlineTable, DoesNothingForARowThatItLacks) {
+    numbered table;
+    for (const std::uint32_t row : {4u, no_row}) {
+        outline_table_item_index beyond(row);
+        const custom_pointer item = make_pointer<outline_item_index_impl>(beyond);
+        table.set_current_item(item);
+        EXPECT_EQ(table.chosen, no_row);
+        EXPECT_FALSE(table.is_selected(item));
+    }
+}
+
 }  // namespace
 }  // namespace ox::toolkit

@@ -59,6 +59,19 @@ TEST(HostTexts, ComeFromTheBasicModuleInItsLanguage) {
     EXPECT_NE(english, russian);
 }
 
+TEST(HostTexts, OneMayBeLookedUpWhileAnotherIsVisited) {
+    struct curious final : string_visitor_impl {
+        std::wstring text;
+        void visit(const wchar_t* visited) override {
+            EXPECT_FALSE(resource::string(basic_text::close).empty());
+            text = visited;
+        }
+    } visitor;
+    host_double::reset();
+    EXPECT_TRUE(resource::visit_string(basic_text::accept, make_pointer<string_visitor_impl>(visitor)));
+    EXPECT_EQ(visitor.text, L"Apply");
+}
+
 struct image_sink : thrice_interleaved_bytes_visitor_impl {
     std::int32_t rows = 0, row_stride = 0, columns = 0, channels = 0;
     void visit(std::int32_t r, std::int32_t stride, std::int32_t c, std::int32_t, std::int32_t n,
@@ -84,8 +97,8 @@ TEST(Pictures, ArriveTopRowFirst) {
 struct french final : util::referent<localizer_impl> {
     french() : obj(custom_pointer{}) {}
     bool visit_string(std::uint32_t id, custom_pointer visitor) override {
-        if (id != 10) return false;
-        call<&string_visitor_impl::visit>(visitor, L"Projeter les coupes");
+        if (id > 11) return false;
+        call<&string_visitor_impl::visit>(visitor, id == 10 ? L"Projeter les coupes" : nullptr);
         return true;
     }
 };
@@ -96,7 +109,8 @@ TEST(Localizer, TakesOverOwnTextsOnlyWhileItLives) {
     ref<ox::localizer, 0> localizer(make_pointer<localizer_impl>(*new french));
     client.visit_localizer(localizer.get());
     EXPECT_EQ(resource::string(10), L"Projeter les coupes");
-    EXPECT_EQ(resource::string(11), L"");  // its answer is final
+    EXPECT_EQ(resource::string(11), L"");  // a null text is an empty one
+    EXPECT_EQ(resource::string(12), L"");  // its answer is final
     EXPECT_FALSE(resource::string(basic_text::accept).empty());
     localizer.reset();
     EXPECT_EQ(resource::string(10), L"Batch Project Sections");

@@ -29,9 +29,9 @@ void expect_stored_with_its_zero(std::uint32_t id, const std::wstring& text) {
     EXPECT_EQ(LoadStringW(module, id, reinterpret_cast<wchar_t*>(&stored), 0),
               static_cast<int>(text.size()) + 1)
         << id;
-    const wchar_t* found = load_string(own_module(), id);
-    EXPECT_EQ(found, stored) << "copied without need: " << id;
-    EXPECT_EQ(found ? std::wstring(found) : L"", text) << id;
+    const resource_text found = load_string(own_module(), id);
+    EXPECT_EQ(found.c_str(), stored) << "copied without need: " << id;
+    EXPECT_EQ(found.c_str(), text) << id;
 }
 
 TEST(OwnTexts, StandInTheStringTableInBothLanguages) {
@@ -39,20 +39,17 @@ TEST(OwnTexts, StandInTheStringTableInBothLanguages) {
         expect_stored_with_its_zero(id, russian);
         expect_stored_with_its_zero(id + ox::text::english_offset, english);
     }
-    EXPECT_EQ(load_string(own_module(), 9), nullptr);
-    EXPECT_EQ(load_string(nullptr, 10), nullptr);
+    EXPECT_FALSE(load_string(own_module(), 9));
+    EXPECT_FALSE(load_string(nullptr, 10));
 }
 
 /// As the host's modules do: the neighbours follow each other without a zero between.
 TEST(BasicTexts, AreEndedWhereTheTableDoesNot) {
     const std::pair<std::uint32_t, const wchar_t*> cases[] = {
         {99, L"Да"}, {100, L"Нет"}, {101, L"Применить"}, {50101, L"Apply"}, {50099, L"Yes"}};
-    for (const auto& [id, text] : cases) {
-        const wchar_t* found = load_string(basic_module(), id);
-        ASSERT_TRUE(found) << id;
-        EXPECT_EQ(std::wstring(found), text) << id;
-    }
-    EXPECT_EQ(load_string(basic_module(), 98), nullptr);
+    for (const auto& [id, text] : cases)
+        EXPECT_EQ(std::wstring(load_string(basic_module(), id).c_str()), text) << id;
+    EXPECT_FALSE(load_string(basic_module(), 98));
 }
 
 TEST(RawTexts, AreBytes) {

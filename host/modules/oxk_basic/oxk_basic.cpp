@@ -36,8 +36,13 @@ void ox_help_mngr_show_help(int, int found_help_id) {
     });
 }
 
+/// As narrow text: a path's bytes are in the locale's character set, which need not be UTF-8.
 void ox_options_get_main_module_path(void* adapter) {
-    at_border([&] { deliver(adapter, std::filesystem::read_symlink("/proc/self/exe").string()); });
+    at_border([&] {
+        const auto* target = static_cast<const string_adapter*>(adapter);
+        if (target && target->narrow)
+            target->narrow(std::filesystem::read_symlink("/proc/self/exe").c_str(), target->context);
+    });
 }
 
 void ox_fnt_type_assign(void* destination_font, const void* source_font) {

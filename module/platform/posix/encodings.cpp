@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <map>
+#include <string>
 
 #include "platform/platform.h"
 
@@ -47,18 +47,25 @@ const char* charset(unsigned code_page) {
     return found == code_pages.end() ? nullptr : found->name;
 }
 
-/// An iconv descriptor, kept for the thread: opening one costs more than converting a short text.
+const iconv_t no_conversion = reinterpret_cast<iconv_t>(-1);
+
+/// An iconv descriptor.
 class converter {
 public:
-    converter(const std::string& to, const std::string& from)
-        : handle_(iconv_open(to.c_str(), from.c_str())) {}
-    ~converter() {
-        if (valid()) iconv_close(handle_);
-    }
+    converter() = default;
+    ~converter() { close(); }
     converter(const converter&) = delete;
     converter& operator=(const converter&) = delete;
 
-    bool valid() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+    bool converts(const char* to, const char* from) const { return to_ == to && from_ == from; }
+    void open(const char* to, const char* from) {
+        close();
+        to_ = to;
+        from_ = from;
+        handle_ = iconv_open(to, from);
+    }
+    /// Not where the system has no such conversion.
+    bool is_open() const { return handle_ != no_conversion; }
 
     /// Converts all of `input`; for each unit that it cannot convert, `replacement` is put in its place.
     template <class Out, class In>
@@ -102,14 +109,28 @@ private:
         errno = error;
     }
 
-    iconv_t handle_;
+    void close() {
+        if (is_open()) iconv_close(handle_);
+        handle_ = no_conversion;
+    }
+
+    std::string to_, from_;
+    iconv_t handle_ = no_conversion;
 };
 
-/// Null when the system has no such conversion.
+/// Null when the system has no such conversion; valid until the next call.
 converter* find_converter(const char* to, const char* from) {
-    thread_local std::map<std::pair<std::string, std::string>, converter> known;
-    const auto found = known.try_emplace({to, from}, to, from).first;
-    return found->second.valid() ? &found->second : nullptr;
+    // Opening one costs more than converting a short text, and a session uses two code pages, both ways. They
+    // close when this library is unloaded; per thread they would keep it mapped.
+    static std::array<converter, 4> kept;
+    static std::size_t oldest = 0;
+    auto found = std::ranges::find_if(kept, [&](const converter& each) { return each.converts(to, from); });
+    if (found == kept.end()) {
+        found = kept.begin() + static_cast<std::ptrdiff_t>(oldest);
+        oldest = (oldest + 1) % kept.size();
+        found->open(to, from);
+    }
+    return found->is_open() ? &*found : nullptr;
 }
 
 /// The lower half of every listed character set, and of every locale's, is ASCII.
@@ -125,7 +146,7 @@ std::wstring to_wide(const char* text, std::size_t length, unsigned code_page) {
     const char* name = charset(code_page);
     if (!text || !name) return {};
     if (is_ascii(text, length)) return {text, text + length};
-    converter* found = find_converter(wide_name, name);
+    converter* const found = find_converter(wide_name, name);
     return found ? found->convert<wchar_t>(text, length, L'\xFFFD') : std::wstring();
 }
 
@@ -137,7 +158,7 @@ std::string to_narrow(const wchar_t* text, std::size_t length, unsigned code_pag
         std::transform(text, text + length, out.begin(), [](wchar_t c) { return static_cast<char>(c); });
         return out;
     }
-    converter* found = find_converter(name, wide_name);
+    converter* const found = find_converter(name, wide_name);
     return found ? found->convert<char>(text, length, '?') : std::string();
 }
 

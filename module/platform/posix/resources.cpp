@@ -22,8 +22,8 @@ resource_module own_module() { return &own_resources(); }
 
 resource_module basic_module() { return basic_resources(); }
 
-const wchar_t* load_string(resource_module module, std::uint32_t id) {
-    return module ? as_set(module)->text(id) : nullptr;
+resource_text load_string(resource_module module, std::uint32_t id) {
+    return module ? resource_text(as_set(module)->text(id)) : resource_text();
 }
 
 std::optional<std::string> load_raw_text(resource_module module, std::uint32_t id) {

@@ -10,18 +10,15 @@ resource_module own_module() { return &__ImageBase; }
 
 resource_module basic_module() { return GetModuleHandleW(L"oxk_basic.dll"); }
 
-const wchar_t* load_string(resource_module module, std::uint32_t id) {
-    if (!module) return nullptr;
+resource_text load_string(resource_module module, std::uint32_t id) {
+    if (!module) return {};
     // With no room for a copy the call answers where the text lies in the resource.
     const wchar_t* text = nullptr;
     const int length = LoadStringW(as_handle(module), id, reinterpret_cast<wchar_t*>(&text), 0);
-    if (length <= 0 || !text) return nullptr;
-    if (text[length - 1] == L'\0') return text;
-
-    // Most string tables store no terminating zero. [ui]
-    static std::wstring copy;
-    copy.resize(static_cast<std::size_t>(length));
-    return LoadStringW(as_handle(module), id, copy.data(), length + 1) > 0 ? copy.c_str() : nullptr;
+    if (length <= 0 || !text) return {};
+    if (text[length - 1] == L'\0') return resource_text(text);
+    // Most string tables store no terminating zero.
+    return resource_text(std::wstring(text, static_cast<std::size_t>(length)));
 }
 
 std::optional<std::string> load_raw_text(resource_module module, std::uint32_t id) {
