@@ -1,6 +1,8 @@
 #pragma once
 /// The smart pointer between modules.
 
+#include <utility>
+
 #include "border/call.h"
 #include "border/interfaces/lifetime.h"
 
@@ -28,7 +30,7 @@ template <class T, bool W, class Traits = reftraits<T>>
 class ref final : public referrer_impl {
 public:
     ref() = default;
-    explicit ref(custom_pointer target) { attach(target); }
+    explicit ref(custom_pointer target) { reset(target); }
     ref(const ref& other) : ref(other.target_) {}
     ref& operator=(const ref& other) {
         reset(other.target_);
@@ -39,14 +41,12 @@ public:
     custom_pointer get() const { return target_; }
     explicit operator bool() const { return static_cast<bool>(target_); }
 
-    void reset() {
-        if (target_) detach();
-        target_ = {};
-    }
-    void reset(custom_pointer target) {
+    /// The new target is attached before the old one goes, which may take along what holds the new one, and
+    /// this reference itself.
+    void reset(custom_pointer target = {}) {
         if (target == target_) return;
-        reset();
-        attach(target);
+        call<&referent_impl::add_referrer>(Traits::referent_of(target), this_referrer());
+        detach(std::exchange(target_, target), this_referrer());
     }
 
     void released(custom_pointer) override { target_ = {}; }
@@ -55,18 +55,12 @@ public:
 private:
     custom_pointer this_referrer() { return make_pointer<referrer_impl>(*this); }
 
-    void attach(custom_pointer target) {
-        target_ = target;
-        call<&referent_impl::add_referrer>(Traits::referent_of(target), this_referrer());
-    }
-
     /// Pins the owner while the referent goes: the end of the referent drops its hold on the owner.
-    void detach() {
-        const custom_pointer referent = Traits::referent_of(target_);
-        if (!referent) return;
+    static void detach(custom_pointer target, custom_pointer referrer) {
+        const custom_pointer referent = Traits::referent_of(target);
         const custom_pointer owner = call<&referent_impl::owner>(referent);
         call<&referent_impl::add_referrer>(owner, custom_pointer{});
-        call<&referent_impl::remove_referrer>(referent, this_referrer());
+        call<&referent_impl::remove_referrer>(referent, referrer);
         call<&referent_impl::remove_referrer>(owner, custom_pointer{});
     }
 

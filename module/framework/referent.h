@@ -3,6 +3,7 @@
 ///
 /// Each removal of a referrer asks the others whether one still holds; when none does, the remaining
 /// ones are told (`released`) and the object destroys itself. The creator gives it a holder at once.
+/// Referrers may come and go while they are asked or told.
 
 #include <list>
 
@@ -16,19 +17,25 @@ struct objbase : referent_impl {
     objbase(const objbase&) = delete;
     objbase& operator=(const objbase&) = delete;
 
+    /// Who comes while the object ends is neither told nor holds it.
     std::size_t add_referrer(custom_pointer referrer) override;
-    /// Destroys the object when nobody holds it any more.
+    /// Destroys the object when nobody holds it any more, and on every removal from inside a `holds` answer.
+    /// Who leaves while the object ends is not told any more.
     void remove_referrer(custom_pointer referrer) override;
     custom_pointer owner() override = 0;
     custom_pointer self() override { return make_pointer<referent_impl>(*this); }
 
-    virtual ~objbase() = default;
+    virtual ~objbase();
 
 private:
-    bool is_held();
+    /// Does one of the referrers hold? Also true when the object ended while they were asked.
+    bool lives_on();
+    void end();
 
     std::list<custom_pointer> referrers_;  ///< in order of addition, duplicates allowed
-    bool polling_ = false;                 ///< set while the referrers are being asked
+    bool* ended_ = nullptr;                ///< while the referrers are being asked: tells the asking frame
+    bool ending_ = false;                  ///< they are being told
+    std::list<custom_pointer>::iterator next_told_;
 };
 
 /// A referent owned by another one, which it holds.

@@ -44,9 +44,11 @@ projection_crs::projection_crs(toolkit::button_box& buttons) : buttons_(buttons)
 bool projection_crs::identifier_changed(const std::wstring& typed) {
     const std::wstring identifier = crs_identifier(typed);
     text_ = adapted_text([&](void* adapter) { ox_pj4_import_crs(identifier.c_str(), adapter); });
-    output_.set_text(text_);
-    buttons_.set_enabled(toolkit::command::apply, !text_.empty());
-    return !text_.empty();
+    const bool known = !text_.empty();
+    toolkit::button_box& buttons = buttons_;
+    output_.set_text(text_);  // from here on the dialog may have ended
+    buttons.set_enabled(toolkit::command::apply, known);
+    return known;
 }
 
 std::wstring crs_identifier(const std::wstring& typed) {

@@ -54,7 +54,7 @@ datum_params::datum_params(dialog::projection_model& model)
     }
     std::vector<item> items{{utf8_to_wide(dialog::projection_model::custom_datum_name), 0}};
     append_items(items, model_.datums());
-    datum_.set_items(std::move(items));
+    datum_.set_items(std::move(items), std::nullopt);
 }
 
 void datum_params::show() {
@@ -71,7 +71,7 @@ void datum_params::datum_chosen() {
     if (!id) return;
     model_.choose_datum(*id);
     show();
-    if (on_choice) on_choice();
+    on_choice();
 }
 
 bool datum_params::numbers_edited() {
@@ -79,7 +79,7 @@ bool datum_params::numbers_edited() {
     for (std::size_t i = 0; i < numbers_.size(); ++i) towgs84[i] = numbers_[i].value();
     model_.set_datum_values(towgs84);
     show_choice();
-    if (on_choice) on_choice();
+    on_choice();
     return true;
 }
 
@@ -101,11 +101,11 @@ ellipsoid_params::ellipsoid_params(dialog::projection_model& model)
         if (!id) return;
         model_.choose_ellipsoid(*id);
         show_axes();
-        if (on_choice) on_choice();
+        on_choice();
     };
     std::vector<item> items;
     append_items(items, model_.ellipsoids());
-    ellipsoid_.set_items(std::move(items));
+    ellipsoid_.set_items(std::move(items), std::nullopt);
 }
 
 void ellipsoid_params::show() {

@@ -2,7 +2,6 @@
 /// The groups "Datum" and "Spheroid" of the projection dialog. [ui]
 
 #include <array>
-#include <functional>
 
 #include "projection/projection_model.h"
 #include "toolkit/dropdown.h"
@@ -20,7 +19,7 @@ public:
     explicit datum_params(dialog::projection_model& model);
 
     /// The user chose a datum or edited its numbers.
-    std::function<void()> on_choice;
+    toolkit::callback<void()> on_choice;
 
     void show();
 
@@ -45,7 +44,7 @@ class ellipsoid_params final : public toolkit::groupbox<3, 2> {
 public:
     explicit ellipsoid_params(dialog::projection_model& model);
 
-    std::function<void()> on_choice;  ///< the user chose an ellipsoid
+    toolkit::callback<void()> on_choice;  ///< the user chose an ellipsoid
 
     void show();
 

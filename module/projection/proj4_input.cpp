@@ -11,27 +11,40 @@ namespace ox::element {
 namespace detail {
 
 proj4_input_toolset::menu_action::menu_action(proj4_input_toolset& menu, std::size_t index)
-    : toolkit::action_tool(picture::none, text::none, text::none), menu_(menu), index_(index) {
-    menu_.live_.insert(this);
+    : toolkit::action_tool(picture::none, text::none, text::none), menu_(&menu), index_(index) {
+    menu.live_.insert(this);
 }
 
-proj4_input_toolset::menu_action::~menu_action() { menu_.live_.erase(this); }
+proj4_input_toolset::menu_action::~menu_action() {
+    if (menu_) menu_->live_.erase(this);
+}
 
 void proj4_input_toolset::menu_action::visit_caption(custom_pointer string_visitor) {
-    const auto& suggestions = menu_.owner_.suggestions();
+    if (!menu_) return;
+    const auto& suggestions = menu_->owner_.suggestions();
     if (index_ < suggestions.size())
         call<&string_visitor_impl::visit>(string_visitor, suggestions[index_].first.c_str());
 }
 
-void proj4_input_toolset::menu_action::click() { menu_.owner_.choose_suggestion(index_); }
+void proj4_input_toolset::menu_action::click() {
+    if (menu_) menu_->owner_.choose_suggestion(index_);
+}
+
+void proj4_input_toolset::menu_action::menu_ends() {
+    if (view())
+        menu_ = nullptr;
+    else
+        delete this;
+}
 
 proj4_input_toolset::~proj4_input_toolset() {
-    while (!live_.empty()) delete *live_.begin();
+    for (menu_action* each : std::exchange(live_, {})) each->menu_ends();
 }
 
 void proj4_input_toolset::visit_tools(custom_pointer tool_set_visitor) {
     if (!tool_set_visitor) return;
-    for (std::size_t i = 0; i < owner_.suggestions().size(); ++i) {
+    const toolkit::life::watch alive(own_life());
+    for (std::size_t i = 0; alive && i < owner_.suggestions().size(); ++i) {
         auto* action = new toolkit::reattachable<menu_action>(*this, i);  // `live_` knows it
         const std::wstring id = L"ox_common_proj4_input_menu_" + std::to_wstring(i);
         call<&tool_set_visitor_impl::visit_action_tool>(tool_set_visitor, id.c_str(),
@@ -81,18 +94,21 @@ void proj4_input::save() const {
 }
 
 void proj4_input::load() {
+    const toolkit::life::watch alive(own_life());
     const std::wstring path = ask_open_projection_file();
-    if (path.empty()) return;
+    if (!alive || path.empty()) return;
     if (std::wstring pj4 = load_projection_file(path); !pj4.empty()) user_sets(std::move(pj4));
 }
 
 void proj4_input::edit() {
-    if (auto pj4 = dialog::edit_projection(text())) user_sets(*std::move(pj4));
+    const toolkit::life::watch alive(own_life());
+    if (auto pj4 = dialog::edit_projection(text()); alive && pj4) user_sets(*std::move(pj4));
 }
 
 void proj4_input::user_sets(std::wstring pj4) {
+    const toolkit::life::watch alive(own_life());
     set_text(std::move(pj4));
-    changed_.fire();
+    if (alive) changed_.fire();
 }
 
 void proj4_input::describe() {

@@ -31,7 +31,8 @@ public:
     void visit_tools(custom_pointer tool_set_visitor) override;
 
 private:
-    /// Belongs to the host, which detaches it; what it leaves behind ends with the menu.
+    /// Belongs to the host from when that attaches its view until it detaches it, which may be after the
+    /// menu has ended. Where no view is attached it ends with the menu.
     class menu_action : public toolkit::action_tool {
     public:
         menu_action(proj4_input_toolset& menu, std::size_t index);
@@ -40,9 +41,10 @@ private:
         virtual ~menu_action();
         void visit_caption(custom_pointer string_visitor) override;
         void click() override;
+        void menu_ends();
 
     private:
-        proj4_input_toolset& menu_;
+        proj4_input_toolset* menu_;  ///< null after its end; the entry is then empty and does nothing
         std::size_t index_;
     };
 

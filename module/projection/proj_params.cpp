@@ -45,24 +45,18 @@ proj_params::proj_params(dialog::projection_model& model)
     content().set_row_expands(3);
     content().set_column_expands(0);
 
-    projection_.on_select = [this](std::uint32_t index) { projection_chosen(index); };
-    zone_.on_select = [this](std::uint32_t index) { zone_chosen(index); };
+    projection_.on_select = [this](std::uint32_t) { projection_chosen(); };
+    zone_.on_select = [this](std::uint32_t) { zone_chosen(); };
 }
 
-void proj_params::show_type() {
+void proj_params::show_type() { show_all(numbers::of_record); }
+
+void proj_params::show_text() { show_all(numbers::of_text); }
+
+void proj_params::show_all(numbers from) {
     show_projections();
     show_zones();
-    for (labeled_number& input : inputs_) input.set_read_only(model_.type() == projection_type::zonal);
-    show_parameters();
-}
-
-void proj_params::show_text_values() {
-    if (model_.type() == projection_type::zonal || !model_.current()) return;
-    for (std::size_t row = 0; row < inputs_.size(); ++row) {
-        const auto value = (model_.params().*parameter_rows[row].parameter).get();
-        if (value || (model_.current()->*parameter_rows[row].slot).used)
-            inputs_[row].show(value.value_or(parameter_rows[row].initial));
-    }
+    show_parameters(from);
 }
 
 parameter_values proj_params::values() {
@@ -73,69 +67,83 @@ parameter_values proj_params::values() {
 
 void proj_params::show_projections() {
     const Tox_pj_proj_list& list = model_.projections();
-    const bool zonal = model_.type() == projection_type::zonal;
     std::vector<item> items;
     const Tox_pj_proj* previous = nullptr;
     for (std::size_t i = 0; i < list.size(); ++i) {
         const Tox_pj_proj& record = list[i];
         // A zonal projection stands once in the list, for all its zones.
-        if (zonal && previous && dialog::same_name(previous->name, record.name)) continue;
+        if (zonal() && previous && dialog::same_name(previous->name, record.name)) continue;
         previous = &record;
         items.push_back(
-            {system_to_wide(record.name), zonal ? model_.zonal_record(record.name).id : record.id});
+            {system_to_wide(record.name), zonal() ? model_.zonal_record(record.name).id : record.id});
     }
-    projection_.set_items(std::move(items));
     const Tox_pj_proj* current = model_.current();
-    projection_.set_current_value(current ? std::optional(current->id) : std::nullopt);
+    projection_.set_items(std::move(items), current ? std::optional(current->id) : std::nullopt);
 }
 
 void proj_params::show_zones() {
-    const Tox_pj_proj* current = model_.current();
-    const bool zonal = model_.type() == projection_type::zonal && current;
-    content().set_row_shown(zone_row, zonal);
+    const Tox_pj_proj* current = zonal() ? model_.current() : nullptr;
     std::vector<item> items;
-    const Tox_pj_proj_list& list = model_.projections();
-    for (std::size_t i = 0; zonal && i < list.size(); ++i)
-        if (dialog::same_name(list[i].name, current->name))
-            items.push_back({zone_caption(list[i]), static_cast<std::uint32_t>(list[i].zone.value)});
-    zone_.set_items(std::move(items));
-    zone_.set_current_value(zonal ? std::optional(static_cast<std::uint32_t>(current->zone.value))
-                                  : std::nullopt);
-}
-
-void proj_params::show_parameters() {
-    const Tox_pj_proj* current = model_.current();
-    const bool zonal = model_.type() == projection_type::zonal;
-    for (std::size_t row = 0; row < inputs_.size(); ++row) {
-        const Tox_pj_dbl slot = current ? current->*parameter_rows[row].slot : Tox_pj_dbl{};
-        labeled_number& input = inputs_[row];
-        rows_.set_row_shown(static_cast<std::int32_t>(row), zonal ? slot.used : slot.needs_input);
-        input.set_limits(slot.has_min ? slot.min : labeled_number::lowest,
-                         slot.has_max ? slot.max : labeled_number::highest);
-        if (slot.has_value)
-            input.show(slot.value);
-        else if (zonal)
-            input.show(parameter_rows[row].initial);
+    std::optional<unsigned int> zone;
+    if (current) {
+        const Tox_pj_proj_list& list = model_.projections();
+        for (std::size_t i = 0; i < list.size(); ++i)
+            if (dialog::same_name(list[i].name, current->name))
+                items.push_back({zone_caption(list[i]), static_cast<std::uint32_t>(list[i].zone.value)});
+        zone = static_cast<std::uint32_t>(current->zone.value);
     }
+    zone_.set_items(std::move(items), zone);
+    content().set_row_shown(zone_row, zone.has_value());
 }
 
-void proj_params::projection_chosen(std::uint32_t) {
+void proj_params::show_parameters(numbers from) {
+    // What a number or a grid is told may change what is current, so each row asks anew.
+    const auto slot_of_row = [this](std::size_t row) {
+        return model_.current() ? model_.current()->*parameter_rows[row].slot : Tox_pj_dbl{};
+    };
+    for (std::size_t row = 0; row < inputs_.size(); ++row) {
+        const Tox_pj_dbl slot = slot_of_row(row);
+        labeled_number& input = inputs_[row];
+        const toolkit::in_one_step step(input);
+        input.set_read_only(zonal());
+        input.show(number_of(parameter_rows[row], from).value_or(input.value()),
+                   slot.has_min ? slot.min : labeled_number::lowest,
+                   slot.has_max ? slot.max : labeled_number::highest);
+    }
+    std::array<bool, parameter_rows.size()> shown{};
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+        const Tox_pj_dbl slot = slot_of_row(row);
+        shown[row] = zonal() ? slot.used : slot.needs_input;
+    }
+    rows_.set_rows_shown(shown);
+}
+
+std::optional<double> proj_params::number_of(const parameter_row& row, numbers from) const {
+    const Tox_pj_proj* current = model_.current();
+    const Tox_pj_dbl slot = current ? current->*row.slot : Tox_pj_dbl{};
+    if (from == numbers::of_text && current && !zonal()) {
+        const auto given = (model_.params().*row.parameter).get();
+        if (given || slot.used) return given.value_or(row.initial);
+    }
+    if (slot.has_value) return slot.value;
+    return zonal() ? std::optional(row.initial) : std::nullopt;
+}
+
+void proj_params::projection_chosen() {
     const auto id = projection_.current_value();
     if (!id) return;
     model_.choose_projection(*id);
     show_zones();
-    show_parameters();
-    if (on_choice) on_choice();
+    show_parameters(numbers::of_record);
+    on_choice();
 }
 
-void proj_params::zone_chosen(std::uint32_t) {
+void proj_params::zone_chosen() {
     const auto zone = zone_.current_value();
     if (!zone) return;
     model_.choose_zone(static_cast<std::int32_t>(*zone));
-    show_projections();  // the items of the other zonal projections stand for the same zone from now on
-    show_zones();
-    show_parameters();
-    if (on_choice) on_choice();
+    show_all(numbers::of_record);  // the items of the other zonal projections stand for that zone from now on
+    on_choice();
 }
 
 }  // namespace ox::element

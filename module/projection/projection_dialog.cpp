@@ -24,7 +24,7 @@ projection::projection() {
     build();
     std::vector<std::wstring> types;
     for (const std::int32_t each : type_captions) types.push_back(resource::string(each));
-    type_.set_items(std::move(types));
+    type_.set_items(std::move(types), static_cast<std::uint32_t>(model_.type()));
 
     favourites_.current_text = [this] { return text(); };
     favourites_.apply_text = [this](const std::wstring& pj4) { set_text(pj4); };
@@ -62,8 +62,7 @@ void projection::build() {
 void projection::set_text(const std::wstring& pj4) {
     model_.classify(wide_to_utf8(pj4));
     type_.set_current(static_cast<std::uint32_t>(model_.type()));
-    parameters_.show_type();
-    parameters_.show_text_values();
+    parameters_.show_text();
     ellipsoid_.show();
     datum_.show();
     show_parts();

@@ -38,7 +38,7 @@ void projection_model::choose_projection(std::uint32_t id) {
 void projection_model::choose_zone(std::int32_t zone) {
     const auto& zones = list_of(projection_type::zonal);
     const Tox_pj_proj*& zonal = current_of(projection_type::zonal);
-    if (!zonal) return;
+    if (!zonal || zonal->zone.value == zone) return;
     const Tox_pj_proj* record = find_proj_by_name_zone(zones, zonal->name, zone);
     if (!record) record = find_proj_by_name_zone(zones, zonal->name, 1);
     if (record) zonal = record;
@@ -52,6 +52,7 @@ const Tox_pj_proj& projection_model::zonal_record(std::string_view name) const {
         });
     };
     const Tox_pj_proj* zonal = current_of(projection_type::zonal);
+    if (zonal && same_name(zonal->name, name)) return *zonal;
     const Tox_pj_proj* record = zonal ? of_zone(zonal->zone.value) : nullptr;
     if (!record) record = of_zone(1);
     if (!record)

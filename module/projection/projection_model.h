@@ -40,9 +40,10 @@ public:
     const Tox_pj_proj_list& projections() const { return lists_[index_of(type_)]; }
     const Tox_pj_proj* current() const { return current_[index_of(type_)]; }
     void choose_projection(std::uint32_t id);
-    /// The zone of the current zonal projection; its zone 1 where there is no such zone.
+    /// Another zone of the current zonal projection; its zone 1 where there is no such zone.
     void choose_zone(std::int32_t zone);
-    /// The zonal record of a name: of the current zone, else of zone 1, else the first.
+    /// The zonal record of a name: the current one, else that of the current zone, else of zone 1, else the
+    /// first.
     const Tox_pj_proj& zonal_record(std::string_view name) const;
 
     const Tox_pj_ellps_list& ellipsoids() const { return ellipsoids_; }

@@ -1,5 +1,7 @@
 #include "toolkit/button_box.h"
 
+#include <utility>
+
 #include "resources/text.h"
 
 namespace ox::toolkit {
@@ -59,19 +61,32 @@ bool button_box::click(std::int32_t index) {
             on_help();
             return false;
     }
-    return on_command && on_command(e->kind);
+    return on_command(e->kind);
+}
+
+void button_box::append(std::int32_t caption, std::uint32_t kind) {
+    entries_.push_back({true, caption, kind});
+    changed();
 }
 
 void button_box::set_enabled(command kind, bool enabled) {
-    bool changed = false;
+    bool differs = false;
     for (entry& e : entries_)
         if (e.kind == static_cast<std::uint32_t>(kind) && e.enabled != enabled) {
             e.enabled = enabled;
-            changed = true;
+            differs = true;
         }
-    if (!changed) return;
+    if (differs) changed();
+}
+
+void button_box::set_default_index(std::int32_t index) {
+    if (std::exchange(default_index_, index) != index) changed();
+}
+
+void button_box::changed() {
+    const life::watch alive(life_);
     call<&element_view_slots::changed>(first_view_);
-    call<&element_view_slots::changed>(second_view_);
+    if (alive) call<&element_view_slots::changed>(second_view_);
 }
 
 }  // namespace ox::toolkit

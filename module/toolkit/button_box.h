@@ -1,7 +1,6 @@
 #pragma once
 /// The standard buttons at the foot of a dialog; their captions are the host's.
 
-#include <functional>
 #include <vector>
 
 #include "border/interfaces/dialogs.h"
@@ -12,6 +11,8 @@ namespace ox::toolkit {
 class button_box final : public button_box_impl {
 public:
     button_box() = default;
+    button_box(const button_box&) = delete;
+    button_box& operator=(const button_box&) = delete;
     /// One button per `command` bit of the mask, in ascending order.
     explicit button_box(std::uint32_t mask);
 
@@ -24,13 +25,14 @@ public:
     bool click(std::int32_t index) override;
     std::int32_t default_index() override { return default_index_; }
 
-    void append(std::int32_t caption, std::uint32_t kind) { entries_.push_back({true, caption, kind}); }
+    void append(std::int32_t caption, std::uint32_t kind);
     /// Enables or greys the buttons of a kind.
     void set_enabled(command kind, bool enabled);
+    void set_default_index(std::int32_t index);  ///< -1 for none
 
-    std::function<bool(std::uint32_t kind)> on_command;
-    std::function<bool()> on_apply;
-    std::function<void()> on_help;
+    callback<bool(std::uint32_t kind)> on_command;
+    callback<bool()> on_apply;
+    callback<void()> on_help;
 
 private:
     struct entry {
@@ -39,11 +41,13 @@ private:
         std::uint32_t kind;
     };
     const entry* at(std::int32_t index) const;
+    void changed();
 
     std::vector<entry> entries_;  ///< in display order
     std::int32_t default_index_ = -1;
     custom_pointer first_view_{};
     custom_pointer second_view_{};
+    life life_;
 };
 
 }  // namespace ox::toolkit

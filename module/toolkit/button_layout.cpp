@@ -9,23 +9,26 @@ void button_layout::visit_cell(std::int32_t column, std::int32_t row, custom_poi
 }
 
 button& button_layout::add(std::int32_t caption, std::uint32_t kind) {
-    return buttons_.emplace_back(caption, [this, kind] { dispatch(kind); });
+    button& added = buttons_.emplace_back(caption, [this, kind] { dispatch(kind); });
+    changed();
+    return added;
 }
 
 void button_layout::dispatch(std::uint32_t kind) {
+    const life::watch alive(own_life());
     switch (static_cast<command>(kind)) {
         case command::accept:
         case command::apply:
-            if (on_accept) on_accept();
+            on_accept();
             break;
         case command::reject:
         case command::close:
-            if (on_reject) on_reject();
+            on_reject();
             break;
         default:
             break;
     }
-    if (on_command) on_command(kind);
+    if (alive) on_command(kind);
 }
 
 }  // namespace ox::toolkit

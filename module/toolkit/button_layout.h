@@ -2,7 +2,6 @@
 /// A row or column of buttons, presented as a grid whose last cell is empty and takes up free space.
 
 #include <deque>
-#include <functional>
 
 #include "toolkit/button.h"
 #include "toolkit/element.h"
@@ -47,9 +46,9 @@ public:
     /// `kind` is a `command` or a command id of the owner's.
     button& add(std::int32_t caption, std::uint32_t kind);
 
-    std::function<void(std::uint32_t kind)> on_command;
-    std::function<void()> on_accept;
-    std::function<void()> on_reject;
+    callback<void(std::uint32_t kind)> on_command;
+    callback<void()> on_accept;
+    callback<void()> on_reject;
 
 private:
     bool vertical() const { return along_ == direction::column; }

@@ -13,6 +13,8 @@ class docker_base : public docker_impl {
 public:
     /// The caption's id serves as the icon's as well.
     explicit docker_base(std::uint32_t caption) : caption_(caption), icon_(caption) {}
+    docker_base(const docker_base&) = delete;
+    docker_base& operator=(const docker_base&) = delete;
 
     void visit_icon(custom_pointer bitmap_visitor) override {
         visit_picture_of(static_cast<std::int32_t>(icon_), bitmap_visitor);
@@ -23,6 +25,8 @@ public:
     bool flag() override { return flag_; }
     std::uint32_t value() override { return whole_value; }
     void attach(custom_pointer host) override { host_ = host; }
+
+    void set_flag(bool flag) { flag_ = flag; }  ///< read when the dialog is shown
 
 protected:
     ~docker_base() = default;

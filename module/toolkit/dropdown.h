@@ -1,35 +1,37 @@
 #pragma once
 /// Drop-down lists.
 
-#include <functional>
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "border/interfaces/controls.h"
+#include "toolkit/callback.h"
 #include "toolkit/view.h"
 
 namespace ox::toolkit {
 
 /// What the kinds of drop-down share: everything but the items.
-class dropdown_base : public with_view<dropdown_impl> {
+class dropdown_base : public with_enabled<dropdown_impl> {
 public:
     void visit_text(custom_pointer string_visitor) override {
         call<&string_visitor_impl::visit>(string_visitor, text_.c_str());
     }
     std::uint32_t value() override { return value_; }
-    bool enabled() override { return enabled_; }
     std::uint32_t current() override { return current_; }
     /// The user's choice; `on_select` hears also of choosing the current item again.
     void select(std::uint32_t index) override {
         current_ = index;
-        if (on_select) on_select(index);
+        on_select(index);
     }
 
-    /// Shows a choice of the program's own; `on_select` does not hear of it.
-    void set_current(std::uint32_t index) { update(current_, index); }
+    /// Shows a choice of the program's own, or none beyond the items; `on_select` does not hear of it.
+    void set_current(std::uint32_t index) { update(current_, index < item_count() ? index : no_item); }
+    void set_text(std::wstring text) { update(text_, std::move(text)); }
+    void set_value(std::uint32_t value) { update(value_, value); }
 
-    std::function<void(std::uint32_t index)> on_select;
+    callback<void(std::uint32_t index)> on_select;
 
 protected:
     ~dropdown_base() = default;
@@ -38,58 +40,80 @@ private:
     std::uint32_t current_ = 0;
     std::wstring text_;
     std::uint32_t value_ = 0;
-    bool enabled_ = true;
 };
 
-class dropdown : public dropdown_base {
-public:
-    std::uint32_t item_count() override { return static_cast<std::uint32_t>(items_.size()); }
-    void visit_item(std::uint32_t index, custom_pointer string_visitor) override {
-        if (index < items_.size()) call<&string_visitor_impl::visit>(string_visitor, items_[index].c_str());
-    }
+namespace detail {
 
-    void set_items(std::vector<std::wstring> items) {
-        items_ = std::move(items);
-        changed();
-    }
-
-private:
-    std::vector<std::wstring> items_;
-};
-
-/// Items that stand for values.
+/// An item that stands for a value.
 template <class Value>
-class dropdownex : public dropdown_base {
-public:
-    struct item {
-        std::wstring caption;
-        Value value;
-    };
+struct valued_item {
+    std::wstring caption;
+    Value value;
+};
 
+inline const std::wstring& caption_of(const std::wstring& item) { return item; }
+template <class Value>
+const std::wstring& caption_of(const valued_item<Value>& item) {
+    return item.caption;
+}
+
+/// A drop-down over items that have captions.
+template <class Item>
+class dropdown_of : public dropdown_base {
+public:
     std::uint32_t item_count() override { return static_cast<std::uint32_t>(items_.size()); }
     void visit_item(std::uint32_t index, custom_pointer string_visitor) override {
         if (index < items_.size())
-            call<&string_visitor_impl::visit>(string_visitor, items_[index].caption.c_str());
+            call<&string_visitor_impl::visit>(string_visitor, caption_of(items_[index]).c_str());
     }
 
-    void set_items(std::vector<item> items) {
+    /// The items and which of them is current, in one step.
+    void set_items(std::vector<Item> items, std::uint32_t current) {
+        const in_one_step step(*this);
+        const auto same_caption = [](const Item& a, const Item& b) { return caption_of(a) == caption_of(b); };
+        const bool looks_same = std::ranges::equal(items_, items, same_caption);
         items_ = std::move(items);
-        changed();
+        if (!looks_same) changed();
+        set_current(current);
     }
-    /// Makes the first item of that value current, or none.
-    void set_current_value(std::optional<Value> value) {
-        std::uint32_t index = 0;
-        while (index < items_.size() && items_[index].value != value) ++index;
-        set_current(index < items_.size() ? index : no_item);
+
+protected:
+    ~dropdown_of() = default;
+    const std::vector<Item>& items() const { return items_; }
+
+private:
+    std::vector<Item> items_;
+};
+
+}  // namespace detail
+
+class dropdown : public detail::dropdown_of<std::wstring> {};
+
+template <class Value>
+class dropdownex : public detail::dropdown_of<detail::valued_item<Value>> {
+    using base = detail::dropdown_of<detail::valued_item<Value>>;
+
+public:
+    using item = detail::valued_item<Value>;
+
+    /// The first item of the current value is the current one, if there is any.
+    void set_items(std::vector<item> items, std::optional<Value> current) {
+        const std::uint32_t index = index_of(items, current);
+        base::set_items(std::move(items), index);
     }
+    void set_current_value(std::optional<Value> value) { this->set_current(index_of(this->items(), value)); }
     /// Value of the current item.
     std::optional<Value> current_value() {
-        if (current() >= items_.size()) return std::nullopt;
-        return items_[current()].value;
+        if (this->current() >= this->items().size()) return std::nullopt;
+        return this->items()[this->current()].value;
     }
 
 private:
-    std::vector<item> items_;
+    static std::uint32_t index_of(const std::vector<item>& items, std::optional<Value> value) {
+        const auto found =
+            std::ranges::find(items, value, [](const item& i) { return std::optional(i.value); });
+        return static_cast<std::uint32_t>(found - items.begin());
+    }
 };
 
 }  // namespace ox::toolkit

@@ -1,6 +1,7 @@
 #pragma once
 /// Handles by which a layout treats its cells alike, whatever stands in them.
 
+#include <memory>
 #include <type_traits>
 
 #include "border/call.h"
@@ -49,6 +50,7 @@ template <class X>
 class generic_element_impl final : public generic_element {
 public:
     explicit generic_element_impl(X& element) : element_(&element) {}
+    const X* element() const { return element_; }
     void visit(custom_pointer element_visitor) override {
         using kind = kind_of<X>;
         call<kind::operation>(element_visitor, make_pointer<typename kind::interface>(*element_));
@@ -56,6 +58,26 @@ public:
 
 private:
     X* element_;
+};
+
+/// Where an element may stand in a layout.
+class place {
+public:
+    /// Nothing stands in an empty place.
+    void visit(custom_pointer element_visitor) const {
+        if (handle_) handle_->visit(element_visitor);
+    }
+    /// False when the element stands there already.
+    template <class X>
+    bool put(X& element) {
+        const auto* old = dynamic_cast<const generic_element_impl<X>*>(handle_.get());
+        if (old && old->element() == &element) return false;
+        handle_ = std::make_unique<generic_element_impl<X>>(element);
+        return true;
+    }
+
+private:
+    std::unique_ptr<generic_element> handle_;
 };
 
 }  // namespace ox::toolkit::detail

@@ -1,10 +1,12 @@
 #pragma once
 /// Notifications inside the module; they never cross its border.
 
-#include <algorithm>
+#include <cstddef>
 #include <functional>
-#include <list>
 #include <memory>
+#include <utility>
+
+#include "toolkit/observer.h"
 
 namespace ox {
 
@@ -25,18 +27,6 @@ public:
     virtual void unblock() = 0;
 };
 
-/// Owned by the subscriber; the event and its connections refer to it weakly.
-struct observer {
-    bool blocked = false;
-    std::function<void()> callback;
-};
-
-using observer_list = std::list<std::weak_ptr<observer>>;
-
-inline auto is(const std::shared_ptr<observer>& wanted) {
-    return [&wanted](const std::weak_ptr<observer>& entry) { return entry.lock() == wanted; };
-}
-
 }  // namespace events
 
 template <>
@@ -53,7 +43,7 @@ public:
         void disconnect() override {
             const auto target = target_.lock();
             const auto list = list_.lock();
-            if (target && list) list->remove_if(events::is(target));
+            if (target && list) list->leave(*target);
         }
         void block() override { mark(true); }
         void unblock() override { mark(false); }
@@ -69,19 +59,19 @@ public:
 
     /// Observers are called in the order of connection.
     std::unique_ptr<events::connection_base> connect(const std::shared_ptr<observer>& target) {
-        observers_->push_back(target);
+        observers_->join(target);
         return std::make_unique<connection_impl>(target, observers_);
     }
 
-    /// Callbacks may connect and disconnect meanwhile: who leaves is not called any more, who joins is
-    /// called from the next time on.
+    /// Callbacks may connect and disconnect meanwhile, and end the event: who leaves is not called any more,
+    /// who joins is called from the next time on.
     void fire() const {
         const auto live = observers_;
-        const events::observer_list snapshot = *live;
-        for (const auto& entry : snapshot)
-            if (const auto target = entry.lock(); target && std::ranges::any_of(*live, events::is(target)))
-                target->callback();
+        live->call_all();
     }
+
+    /// Number of connections whose observer lives.
+    std::size_t size() const { return observers_->size(); }
 
 private:
     std::shared_ptr<events::observer_list> observers_ = std::make_shared<events::observer_list>();
@@ -91,8 +81,13 @@ private:
 class subscription {
 public:
     subscription(event<void()>& source, std::function<void()> callback)
-        : observer_(std::make_shared<events::observer>(events::observer{false, std::move(callback)})),
+        : observer_(std::make_shared<events::observer>(std::move(callback))),
           connection_(source.connect(observer_)) {}
+    subscription(const subscription&) = delete;
+    subscription& operator=(const subscription&) = delete;
+    ~subscription() {
+        connection_->disconnect();
+    }  // also while its own callback runs, which keeps the observer
 
     events::connection_base& connection() { return *connection_; }
 

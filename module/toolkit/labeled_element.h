@@ -1,6 +1,8 @@
 #pragma once
 /// An element together with the caption that its parent places in the cell to the left of it.
 
+#include <concepts>
+
 #include "toolkit/label.h"
 
 namespace ox::toolkit {
@@ -25,9 +27,10 @@ public:
     explicit labeled_element(std::int32_t caption, A&&... arguments)
         : X(std::forward<A>(arguments)...), with_place(caption) {}
 
-    /// Greys the caption along with the control.
-    void set_enabled(bool enabled) requires requires(X& x) { x.set_enabled(true); }
-    {
+    /// Greys the caption along with the control, which is told first. The caption of a drop-down stays.
+    void set_enabled(bool enabled) requires(!std::derived_from<X, dropdown_impl> &&
+                                            requires(X & x) { x.set_enabled(true); }) {
+        const in_one_step caption(caption_label()), control(*this);
         X::set_enabled(enabled);
         caption_label().set_enabled(enabled);
     }

@@ -22,6 +22,10 @@ inline constexpr const wchar_t* id_text<nullptr> = L"";
 template <const wchar_t* Id>
 class modal_dialog final : public modal_dialog_impl {
 public:
+    modal_dialog() = default;
+    modal_dialog(const modal_dialog&) = delete;
+    modal_dialog& operator=(const modal_dialog&) = delete;
+
     void attach(custom_pointer dialog_host) override { dialog_host_ = dialog_host; }
     custom_pointer dialog_host() const { return dialog_host_; }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <type_traits>
 #include <utility>
 
 #include "border/interfaces/tools.h"
@@ -60,6 +61,7 @@ template <class T>
 class toolbar<T, toolbar_impl, void> final : public with_view<toolbar_impl> {
 public:
     template <class... A>
+    requires std::is_constructible_v<T, A...>
     explicit toolbar(A&&... arguments) : application_(std::forward<A>(arguments)...) {
         tools_visitor::toolset_state_impl<toolbar> collecting(*this, 0);
         append_tool_set(0);
@@ -99,6 +101,7 @@ template <class T>
 class toolbar<T, context_menu_impl, void> final : public with_view<context_menu_impl> {
 public:
     template <class... A>
+    requires std::is_constructible_v<T, A...>
     explicit toolbar(A&&... arguments) : application_(std::forward<A>(arguments)...) {}
 
     void visit_tool_sets(custom_pointer tool_set_visitor) override {

@@ -1,8 +1,6 @@
 #pragma once
 /// Turns a widget into something that the host can list and start.
 
-#include <functional>
-
 #include "border/host_api/oxk_basic.h"
 #include "toolkit/docker.h"
 #include "toolkit/modal_dialog.h"
@@ -25,6 +23,8 @@ public:
     static constexpr const wchar_t* id = Id;
 
     explicit utility(const utility_texts& texts) : texts_(texts) {}
+    utility(const utility&) = delete;
+    utility& operator=(const utility&) = delete;
 
     void visit_caption(custom_pointer string_visitor) override {
         visit_text_of(static_cast<std::int32_t>(texts_.caption), string_visitor);
@@ -36,14 +36,13 @@ public:
     bool host_request() override { return !on_host_request || on_host_request(window_); }
     void run() override {
         docker<W> dialog(texts_.dialog_caption);
-        if (on_widget) on_widget(dialog.widget());
+        on_widget(dialog.widget());
         show(dialog);
     }
     void set_host_data(custom_pointer data) override { host_data_ = data; }
 
-    std::function<void(W&)> on_widget;  ///< before the dialog is shown
-    std::function<bool(custom_pointer window)>
-        on_host_request;  ///< the host asks before it starts the utility
+    callback<void(W&)> on_widget;                           ///< before the dialog is shown
+    callback<bool(custom_pointer window)> on_host_request;  ///< the host asks before it starts the utility
 
 protected:
     ~utility() = default;

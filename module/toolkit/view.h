@@ -1,38 +1,61 @@
 #pragma once
 /// What every control shares: the host's view, and texts and pictures by id.
 
+#include <cmath>
 #include <cstdint>
+#include <type_traits>
+#include <utility>
 
-#include "border/call.h"
-#include "border/interfaces/layouts.h"
 #include "border/interfaces/values.h"
+#include "toolkit/notifier.h"
 #include "toolkit/resource_lookup.h"
 
 namespace ox::toolkit {
 
-/// Base of the elements: keeps the view that the host attached last. The view belongs to the host and
-/// must outlive the element or be replaced by an empty one.
+/// Base of the elements. They stay where they are: the host points at them.
 template <class Impl>
 class with_view : public Impl {
 public:
-    void attach_view(custom_pointer view) override { view_ = view; }
+    with_view() = default;
+    with_view(const with_view&) = delete;
+    with_view& operator=(const with_view&) = delete;
+
+    void attach_view(custom_pointer view) override { notifier_.attach(view); }
 
 protected:
     ~with_view() = default;
 
-    custom_pointer view() const { return view_; }
-    void changed() const { call<&element_view_slots::changed>(view_); }
-
+    custom_pointer view() const { return notifier_.view(); }
+    /// The last act of whoever calls it: the view may end the element.
+    void changed() { notifier_.tell(); }
     /// Stores a visible value; the view hears only of real changes.
     template <class T>
-    void update(T& field, T value) {
+    void update(T& field, std::type_identity_t<T> value) {
         if (field == value) return;
+        if constexpr (std::is_floating_point_v<T>)
+            if (std::isnan(field) && std::isnan(value)) return;
         field = std::move(value);
         changed();
     }
+    life& own_life() { return notifier_.element_life(); }
 
 private:
-    custom_pointer view_{};
+    friend class in_one_step;
+    notifier notifier_;
+};
+
+/// Base of the elements that can be greyed.
+template <class Impl>
+class with_enabled : public with_view<Impl> {
+public:
+    bool enabled() override { return enabled_; }
+    void set_enabled(bool enabled) { this->update(enabled_, enabled); }
+
+protected:
+    ~with_enabled() = default;
+
+private:
+    bool enabled_ = true;
 };
 
 /// Id 0 means no text.

@@ -24,7 +24,7 @@ widget::widget() {
         label_.changed();
         return true;
     };
-    choice_.set_items({L"one", L"two"});
+    choice_.set_items({L"one", L"two"}, 0);
     root_.put(0, 0, label_);
     root_.put(0, 1, target_);
     root_.put(0, 2, choice_);

@@ -24,8 +24,7 @@ confirmed through_dialog(const std::string& text) {
     static ox::dialog::projection_model model;  // classification forgets the text before
     static ox::element::proj_params group(model);
     model.classify(text);
-    group.show_type();
-    group.show_text_values();
+    group.show_text();
     return {model.compose(group.values(), group.zone()), model.current() ? model.current()->name : "",
             group.zone()};
 }

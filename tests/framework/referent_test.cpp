@@ -2,8 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+
 #include "border/interfaces/dialogs.h"
 #include "framework/referent.h"
+#include "testing/case_name.h"
 
 namespace ox {
 namespace {
@@ -47,7 +53,8 @@ TEST_F(Referents, AnObserverLeavingDoesNotEndWhatIsHeld) {
 TEST_F(Referents, ReassigningToTheSameTargetKeepsIt) {
     holding holder((new service)->pointer());
     holder.reset(holder.get());
-    holder = holder;
+    const holding& same = holder;
+    holder = same;
     EXPECT_EQ(services_alive, 1);
 }
 
@@ -87,6 +94,130 @@ TEST_F(Referents, AReferrerAddedTwiceIsRemovedTwice) {
     EXPECT_EQ(services_alive, 0);
     EXPECT_EQ(twice.told, 0);
 }
+
+// ---- References that live in what other references release ----
+
+struct link final : util::referent<utility_service_impl> {
+    link() : obj(custom_pointer{}) { ++services_alive; }
+    ~link() override { --services_alive; }
+    custom_pointer pointer() { return make_pointer<utility_service_impl>(*this); }
+    holding next;
+};
+
+TEST_F(Referents, AReferenceMovesAlongTheChainThatItReleases) {
+    auto *first = new link, *second = new link;
+    first->next.reset(second->pointer());
+    holding head(first->pointer());
+    head = first->next;
+    EXPECT_EQ(services_alive, 1);
+    EXPECT_EQ(head.get(), second->pointer());
+}
+
+TEST_F(Referents, AReferenceMayLiveInWhatItReleases) {
+    auto *circular = new link, *other = new link;
+    const holding holder(other->pointer());
+    circular->next.reset(circular->pointer());
+    circular->next = holder;
+    EXPECT_EQ(services_alive, 1);
+}
+
+TEST_F(Referents, AnObserverSeesTheEndOfATargetThatGoesWithTheOldOne) {
+    auto *first = new link, *second = new link;
+    first->next.reset(second->pointer());
+    observing watcher(first->pointer());
+    watcher.reset(second->pointer());  // nobody holds the first one
+    EXPECT_FALSE(watcher);
+}
+
+TEST_F(Referents, AReferenceMayBeSetAnewWhileItsTargetEnds) {
+    auto *first = new link, *second = new link;
+    const holding holder(second->pointer());
+    observing watcher;
+    struct resetter final : referrer_impl {
+        std::function<void()> when_told;
+        void released(custom_pointer) override { when_told(); }
+    } resetter;
+    resetter.when_told = [&] { watcher.reset(second->pointer()); };
+    holding head(first->pointer());
+    first->add_referrer(make_pointer<referrer_impl>(resetter));
+    watcher.reset(first->pointer());
+    head.reset();
+    EXPECT_EQ(watcher.get(), second->pointer());
+}
+
+// ---- Referrers that come and go while a referent asks or tells them ----
+
+/// Named by a letter; what it does when it is told or asked is the test's.
+struct scripted final : referrer_impl {
+    char letter = 0;
+    bool held = false;
+    std::function<void()> when_told, when_asked;
+    std::string* told = nullptr;
+    void released(custom_pointer) override {
+        *told += letter;
+        if (when_told) when_told();
+    }
+    bool holds() override {
+        if (when_asked) when_asked();
+        return held;
+    }
+};
+
+struct meanwhile_case {
+    const char* name;
+    const char* referrers;  ///< in order of addition; a capital one holds
+    char actor;             ///< acts once
+    const char* when;       ///< "told" or "asked"
+    const char* acts;       ///< "-c" removes c, "+d" adds d
+    const char* told;
+};
+
+class ReferentMeanwhile : public Referents, public testing::WithParamInterface<meanwhile_case> {};
+
+TEST_P(ReferentMeanwhile, EndsOnceAndTellsThoseWhoAreLeft) {
+    const meanwhile_case& c = GetParam();
+    const custom_pointer referent = (new service)->referent_pointer();
+    std::string told;
+    std::map<char, scripted> referrers;
+    const auto of = [&](char letter) {
+        scripted& named = referrers[letter];
+        named.letter = letter;
+        named.held = letter >= 'A' && letter <= 'Z';
+        named.told = &told;
+        return make_pointer<referrer_impl>(named);
+    };
+    const auto act = [&, done = false]() mutable {
+        if (std::exchange(done, true)) return;
+        for (const char* step = c.acts; *step; step += 2)
+            if (*step == '-')
+                call<&referent_impl::remove_referrer>(referent, of(step[1]));
+            else
+                call<&referent_impl::add_referrer>(referent, of(step[1]));
+    };
+    for (const char* letter = c.referrers; *letter; ++letter)
+        call<&referent_impl::add_referrer>(referent, of(*letter));
+    scripted& actor = referrers[c.actor];
+    (std::string_view(c.when) == "told" ? actor.when_told : actor.when_asked) = act;
+    call<&referent_impl::remove_referrer>(referent, of('z'));
+    EXPECT_EQ(told, c.told);
+    EXPECT_EQ(services_alive, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Removals, ReferentMeanwhile,
+    testing::Values(meanwhile_case{"SelfWhenTold", "abc", 'b', "told", "-b", "abc"},
+                    meanwhile_case{"NextWhenTold", "abc", 'a', "told", "-b", "ac"},
+                    meanwhile_case{"LastWhenTold", "abc", 'b', "told", "-c", "ab"},
+                    meanwhile_case{"PreviousWhenTold", "abc", 'b', "told", "-a", "abc"},
+                    meanwhile_case{"AllWhenTold", "abc", 'a', "told", "-a-b-c", "a"},
+                    meanwhile_case{"StrangerWhenTold", "abc", 'b', "told", "-y", "abc"},
+                    meanwhile_case{"OneOfTwoWhenTold", "abbc", 'b', "told", "-b", "abbc"},
+                    meanwhile_case{"AddedWhenTold", "ab", 'a', "told", "+d+E-E", "ab"},
+                    meanwhile_case{"SelfWhenAsked", "abc", 'b', "asked", "-b", "ac"},
+                    meanwhile_case{"NextWhenAsked", "abc", 'a', "asked", "-b", "ac"},
+                    meanwhile_case{"SelfWhenAskedThoughOneHolds", "abC", 'a', "asked", "-a", "bC"},
+                    meanwhile_case{"SelfWhenAskedAndSaysItHolds", "Ab", 'A', "asked", "-A", "b"}),
+    case_name);
 
 }  // namespace
 }  // namespace ox

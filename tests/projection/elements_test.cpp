@@ -154,6 +154,8 @@ TEST_F(Elements, Proj4InputLoadsSavesAndDescribes) {
     EXPECT_EQ(host().files[L"copy.prj"], L"+proj=utm +zone=40");
 }
 
+using suggestion_menu = toolkit::toolbar<element::detail::proj4_input_toolset, context_menu_impl, void>;
+
 struct menu_seen : tool_set_visitor_impl {
     std::vector<std::wstring> ids, captions;
     std::vector<custom_pointer> tools;
@@ -171,7 +173,7 @@ struct menu_seen : tool_set_visitor_impl {
 TEST_F(Elements, TheSuggestionMenuSetsTheText) {
     element::proj4_input input;
     input.set_suggestions({{L"Zone 40", L"+proj=utm +zone=40"}, {L"None", L""}});
-    toolkit::toolbar<element::detail::proj4_input_toolset, context_menu_impl, void> menu(input);
+    suggestion_menu menu(input);
     menu_seen seen;
     menu.visit_tool_sets(make_pointer<tool_set_visitor_impl>(seen));
     EXPECT_EQ(seen.ids,
@@ -185,6 +187,63 @@ TEST_F(Elements, TheSuggestionMenuSetsTheText) {
     EXPECT_EQ(description_of(input), L"described: ");  // set, and empty
     call<&action_tool_impl::attach_view>(seen.tools[0],
                                          custom_pointer{});  // gone; the other ends with the menu
+}
+
+TEST_F(Elements, AMenuEntryWithAViewBelongsToTheHostAlsoAfterTheDialog) {
+    for (const bool menu_ends_first : {true, false}) {
+        element::proj4_input input;
+        input.set_suggestions({{L"Zone 40", L"+proj=utm +zone=40"}, {L"None", L""}});
+        auto menu = std::make_unique<suggestion_menu>(input);
+        menu_seen seen;
+        menu->visit_tool_sets(make_pointer<tool_set_visitor_impl>(seen));
+        element_view_slots view;
+        const custom_pointer kept = seen.tools[0];  // the other one ends with the menu
+        call<&action_tool_impl::attach_view>(kept, make_pointer(view));
+        if (menu_ends_first) {
+            menu.reset();
+            EXPECT_EQ(read_text([&](custom_pointer v) { call<&action_tool_impl::visit_caption>(kept, v); }),
+                      L"");
+            call<&action_tool_impl::click>(kept);
+            EXPECT_EQ(input.text(), L"");
+        }
+        call<&action_tool_impl::attach_view>(kept, custom_pointer{});  // which ends it
+    }
+}
+
+TEST_F(Elements, AMenuMayEndWhileItsEntriesAreVisited) {
+    element::proj4_input input;
+    input.set_suggestions({{L"one", L"1"}, {L"two", L"2"}, {L"three", L"3"}});
+    auto menu = std::make_unique<suggestion_menu>(input);
+    struct ender : tool_set_visitor_impl {
+        std::unique_ptr<suggestion_menu>* menu = nullptr;
+        int visited = 0;
+        void visit_action_tool(const wchar_t*, custom_pointer) override {
+            if (++visited == 2) menu->reset();
+        }
+    } ends;
+    ends.menu = &menu;
+    menu->application().visit_tools(make_pointer<tool_set_visitor_impl>(ends));
+    EXPECT_EQ(ends.visited, 2);
+}
+
+TEST_F(Elements, AnInputMayEndWhileItTellsOfItsText) {
+    auto input = std::make_unique<element::proj4_input>();
+    input->set_suggestions({{L"one", L"1"}});
+    struct ender : element_view_slots {
+        std::unique_ptr<element::proj4_input>* input = nullptr;
+        void changed() override { input->reset(); }
+    } ends;
+    ends.input = &input;
+    struct attacher : element_visitor_impl {
+        custom_pointer view{};
+        void multiline_output(custom_pointer element) override {
+            call<&multiline_output_impl::attach_view>(element, view);
+        }
+    } attach;
+    attach.view = make_pointer<element_view_slots>(ends);
+    input->visit_cell(0, 0, make_pointer<element_visitor_impl>(attach));
+    input->choose_suggestion(0);
+    EXPECT_FALSE(input);
 }
 
 TEST_F(Elements, TheCrsDialogClosesWithAResultOnly) {

@@ -2,126 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "framework/value_visitors.h"
 #include "projection/projection_dialog.h"
-#include "support/catalogue_columns.h"
-#include "support/dbf.h"
+#include "small_catalogue.h"
 #include "support/encodings.h"
 #include "testing/case_name.h"
-#include "testing/host_double/host_double.h"
 
 namespace ox {
 namespace {
-
-namespace fs = std::filesystem;
-using host_double::host;
-using row = std::map<std::string, std::string>;
-
-template <class Columns>
-void write_table(const fs::path& path, const Columns& columns, const std::vector<row>& rows) {
-    std::vector<Tox_dbf_field_def> fields;
-    for (const auto& column : columns) fields.push_back({std::string(column), 'C', 40, 0});
-    Tox_dbf table;
-    ASSERT_EQ(table.dbf_create(path.string(), fields, static_cast<std::uint32_t>(rows.size())), 0);
-    for (std::uint32_t i = 0; i < rows.size(); ++i) {
-        table.go_record(i);
-        for (const auto& [column, text] : rows[i]) {
-            std::uint32_t index = 0;
-            ASSERT_TRUE(table.find_field(column, index)) << column;
-            table.set_text(index, text);
-        }
-    }
-    table.dbf_close();
-}
-
-row zone(int number, double lon_0) {
-    return {{"PRJ_NAME", "GK"},  {"PROJ", "tmerc"},
-            {"LON_0", "1"},      {"LON_0_V", std::to_string(lon_0)},
-            {"LAT_0", "1"},      {"LAT_0_V", "0"},
-            {"K_0", "1"},        {"K_0_V", "1"},
-            {"X_0", "1"},        {"X_0_V", std::to_string(number) + "500000"},
-            {"Y_0", "1"},        {"Y_0_V", "0"},
-            {"UNITS", "1"},      {"UNITS_V", "m"},
-            {"ZONE", "1"},       {"ZONE_V", std::to_string(number)},
-            {"DATUM", "Pulkovo"}};
-}
-row utm(int number, bool south) {
-    row record{{"PRJ_NAME", south ? "UTM South" : "UTM North"},
-               {"PROJ", "utm"},
-               {"ZONE", "1"},
-               {"ZONE_V", std::to_string(number)},
-               {"UNITS", "1"},
-               {"UNITS_V", "m"}};
-    if (south) record["SOUTH"] = "1";
-    return record;
-}
-
-class Dialog : public testing::Test {
-protected:
-    void SetUp() override {
-        host_double::reset();
-        folder_ = fs::temp_directory_path() /
-                  ("ox_dialog_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                   std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-        fs::create_directories(folder_ / "prj_def");
-        host().executable = (folder_ / "host").wstring();
-    }
-    void TearDown() override {
-        fs::remove_all(folder_);
-        EXPECT_EQ(host().alive(), 0);
-    }
-    void write_catalogue() const {
-        const fs::path tables = folder_ / "prj_def";
-        write_table(tables / "pj_ellps.dbf", ellps_columns,
-                    {{{"ELLPS_ID", "1"},
-                      {"ELLPS_NAME", "WGS 84"},
-                      {"ELLPS", "WGS84"},
-                      {"A", "6378137"},
-                      {"RF", "298.257223563"}},
-                     {{"ELLPS_ID", "2"},
-                      {"ELLPS_NAME", "Krassovsky"},
-                      {"ELLPS", "krass"},
-                      {"A", "6378245"},
-                      {"RF", "298.3"}},
-                     {{"ELLPS_ID", "3"}, {"ELLPS_NAME", "Own"}, {"A", "6370000"}, {"B", "6350000"}}});
-        write_table(tables / "pj_datum.dbf", datum_columns,
-                    {{{"DATUM_NAME", "WGS84"}, {"DATUM", "WGS84"}, {"ELLPS_ID", "1"}},
-                     {{"DATUM_NAME", "Pulkovo"},
-                      {"SHIFT_X0", "24"},
-                      {"SHIFT_Y0", "-123"},
-                      {"SHIFT_Z0", "-94"},
-                      {"ELLPS_ID", "2"}}});
-        write_table(tables / "pj_proj1.dbf", projection_columns,
-                    {{{"PRJ_NAME", "Transverse Mercator"},
-                      {"PROJ", "tmerc"},
-                      {"LON_0", "1"},
-                      {"LAT_0", "1"},
-                      {"K_0", "1"},
-                      {"K_0_V", "0.9996"},
-                      {"X_0", "1"},
-                      {"Y_0", "1"},
-                      {"UNITS", "1"},
-                      {"UNITS_V", "m"}},
-                     {{"PRJ_NAME", "Lambert"},
-                      {"PROJ", "lcc"},
-                      {"LON_0", "1"},
-                      {"LAT_0", "1"},
-                      {"LAT_1", "1"},
-                      {"LAT_1_MIN", "-89"},
-                      {"LAT_1_MAX", "89"},
-                      {"LAT_2", "1"},
-                      {"X_0", "1"},
-                      {"Y_0", "1"},
-                      {"UNITS", "1"},
-                      {"UNITS_V", "m"}}});
-        write_table(tables / "pj_proj2.dbf", projection_columns,
-                    {zone(7, 39), zone(8, 45), utm(40, false), utm(40, true)});
-    }
-
-    fs::path folder_;
-};
 
 struct text_case {
     const char* name;
@@ -193,6 +81,19 @@ TEST_F(Dialog, OpensOnWhateverStandsInTheFolder) {
 
 // ---- As the user sees it: the model and the groups ----
 
+/// The one drop-down in a row of a grid, which may stand in a grid of its own.
+custom_pointer choice_of(grid_layout_impl& grid, std::int32_t row) {
+    struct finder : element_visitor_impl {
+        custom_pointer found{};
+        void dropdown(custom_pointer element) override { found = element; }
+        void grid_layout(custom_pointer inner) override {
+            call<&grid_layout_impl::visit_cell>(inner, 1, 0, make_pointer<element_visitor_impl>(*this));
+        }
+    } finder;
+    grid.visit_cell(0, row, make_pointer<element_visitor_impl>(finder));
+    return finder.found;
+}
+
 TEST_F(Dialog, ChoicesFollowTheCatalogue) {
     write_catalogue();
     dialog::projection_model model;
@@ -215,6 +116,36 @@ TEST_F(Dialog, ChoicesFollowTheCatalogue) {
     EXPECT_EQ(model.datum()->name, "Pulkovo");
     model.set_datum_values({24, -123, -95, 0, 0, 0, 0});
     EXPECT_EQ(model.datum()->name, "<Custom>");
+}
+
+TEST_F(Dialog, ARecordWhoseNameBothHemispheresCarryStaysCurrent) {
+    write_catalogue();
+    std::vector<row> zones{zone(7, 39)};
+    for (const bool south : {false, true})
+        for (const int number : {39, 40}) {
+            zones.push_back(utm(number, south));
+            zones.back()["PRJ_NAME"] = "UTM";
+        }
+    write_table(folder_ / "prj_def/pj_proj2.dbf", projection_columns, zones);
+    for (const char* text : {"+proj=utm +zone=40 +ellps=WGS84", "+proj=utm +zone=40 +south +ellps=WGS84"}) {
+        SCOPED_TRACE(text);
+        dialog::projection_model model;
+        model.classify(text);
+        element::proj_params group(model);
+        group.show_text();
+        const Tox_pj_proj* given = model.current();
+        const custom_pointer names = choice_of(group.content(), 0),
+                             zone_numbers = choice_of(group.content(), 1);
+        EXPECT_EQ(call<&dropdown_impl::item_count>(names), 2u);
+        for (const custom_pointer choice : {names, zone_numbers}) {
+            const std::uint32_t shown = call<&dropdown_impl::current>(choice);
+            EXPECT_NE(shown, dropdown_impl::no_item);
+            call<&dropdown_impl::select>(choice, shown);  // the user chooses what is shown
+            EXPECT_EQ(model.current(), given);
+        }
+        call<&dropdown_impl::select>(names, 0u);
+        EXPECT_EQ(model.current()->name, "GK");
+    }
 }
 
 TEST_F(Dialog, GridsAreKeptOnlyByATextWithoutProjection) {
