@@ -5,8 +5,8 @@
 #include "app/command.h"
 #include "app/plug_in_texts.h"
 #include "app/projection_dialog_drive.h"
-#include "geodesy/proj4_text.h"
-#include "session/string_adapter.h"
+#include "base/numbers.h"
+#include "base/utf8.h"
 
 namespace oxhost::app {
 

@@ -1,6 +1,6 @@
 #include "app/dialog_text.h"
 
-#include "geodesy/proj4_text.h"
+#include "base/numbers.h"
 
 namespace oxhost::app {
 

@@ -2,8 +2,8 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/output_file.h"
 #include "app/target.h"
+#include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/crs_import.h"
 

@@ -5,6 +5,7 @@
 
 #include "app/command.h"
 #include "app/json.h"
+#include "base/utf8.h"
 
 namespace oxhost::app {
 
@@ -28,23 +29,18 @@ void print_json(const project& of) {
     std::cout << json_text(rows) << '\n';
 }
 
-/// Characters of a UTF-8 text, as far as a table's columns need it.
-std::size_t width(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 void print_table(const project& of) {
     const std::string heads[] = {std::string(in_language("Сцена", "Scene")),
                                  std::string(in_language("Вершин", "Vertices")),
                                  std::string(in_language("Проекция", "Projection"))};
-    std::size_t caption_width = width(heads[0]);
-    for (const scene& each : of.scenes()) caption_width = std::max(caption_width, width(each.caption));
+    std::size_t caption_width = character_count(heads[0]);
+    for (const scene& each : of.scenes())
+        caption_width = std::max(caption_width, character_count(each.caption));
     const auto row = [&](const std::string& index, const std::string& caption, const std::string& count,
                          const std::string& projection) {
         std::cout << std::setw(5) << index << "  " << caption
-                  << std::string(caption_width - width(caption), ' ') << "  "
-                  << std::string(9 - std::min<std::size_t>(9, width(count)), ' ') << count << "  "
+                  << std::string(caption_width - character_count(caption), ' ') << "  "
+                  << std::string(9 - std::min<std::size_t>(9, character_count(count)), ' ') << count << "  "
                   << projection << '\n';
     };
     row("#", heads[0], heads[1], heads[2]);

@@ -4,6 +4,7 @@
 
 #include "app/command.h"
 #include "app/version.h"
+#include "base/files.h"
 
 namespace {
 
@@ -42,6 +43,9 @@ int main(int argc, char** argv) {
     } catch (const failure& e) {
         std::cerr << "oxhost: " << e.what() << '\n';
         return answer(e.code);
+    } catch (const oxhost::file_error& e) {
+        std::cerr << "oxhost: " << e.what() << '\n';
+        return answer(exit_code::nothing_done);
     } catch (const std::exception& e) {
         std::cerr << "oxhost: " << e.what() << '\n';
         return answer(exit_code::internal);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/utf8.h"
+
 namespace oxhost::app {
 
 namespace {
@@ -15,9 +17,7 @@ constexpr std::size_t most = 200;
 }  // namespace
 
 double map_captions::width_of(std::string_view text) {
-    const auto letters =
-        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
-    return letter_width * static_cast<double>(letters);
+    return letter_width * static_cast<double>(character_count(text));
 }
 
 bool map_captions::is_free(const rectangle& box) const {

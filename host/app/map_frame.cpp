@@ -5,7 +5,7 @@
 #include <numbers>
 
 #include "app/svg.h"
-#include "geodesy/proj4_text.h"
+#include "base/numbers.h"
 #include "session/language.h"
 
 namespace oxhost::app {

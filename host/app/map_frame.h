@@ -3,8 +3,7 @@
 
 #include <string>
 
-#include "geometry/polyline.h"
-#include "project/line_blob.h"
+#include "base/line.h"
 
 namespace oxhost::app {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "app/command.h"
-#include "geodesy/proj4_text.h"
+#include "base/numbers.h"
 
 namespace oxhost::app {
 

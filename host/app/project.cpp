@@ -3,10 +3,10 @@
 
 #include "app/command.h"
 #include "app/dialog_text.h"
-#include "app/output_file.h"
 #include "app/plug_in_texts.h"
 #include "app/projection_dialog_drive.h"
 #include "app/target.h"
+#include "base/files.h"
 
 namespace oxhost::app {
 

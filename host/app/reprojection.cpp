@@ -4,11 +4,11 @@
 
 #include "app/advice.h"
 #include "app/outcome.h"
-#include "app/output_file.h"
 #include "app/report.h"
 #include "app/section_map.h"
 #include "app/selection.h"
 #include "app/utility_drive.h"
+#include "base/files.h"
 
 namespace oxhost::app {
 

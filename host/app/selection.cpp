@@ -1,9 +1,9 @@
 #include "app/selection.h"
 
-#include <charconv>
 #include <set>
 
 #include "app/command.h"
+#include "base/numbers.h"
 
 namespace oxhost::app {
 
@@ -13,9 +13,8 @@ bool is_listed(const scene& of) { return of.profile && of.line; }
 
 /// Null when the text is no index of a scene.
 scene* by_index(project& in, const std::string& text) {
-    std::size_t index = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), index);
-    return error == std::errc() && end == text.data() + text.size() ? in.at(index) : nullptr;
+    const auto index = parse_whole_number(text);
+    return index && *index >= 0 ? in.at(static_cast<std::size_t>(*index)) : nullptr;
 }
 
 scene& find(project& in, const std::string& wanted) {

@@ -1,9 +1,9 @@
 #include "app/svg.h"
 
-#include <charconv>
 #include <cmath>
 
-#include "session/string_adapter.h"
+#include "base/numbers.h"
+#include "base/utf8.h"
 
 namespace oxhost::app::svg {
 
@@ -28,11 +28,6 @@ std::string text(std::string_view plain) {
     return escaped;
 }
 
-std::string number(double units) {
-    const double tenths = std::round(units * 10);
-    char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, tenths / 10).ptr;
-    return tenths == 0 ? "0" : std::string(digits, end);
-}
+std::string number(double units) { return number_text(std::round(units * 10) / 10); }
 
 }  // namespace oxhost::app::svg

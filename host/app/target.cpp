@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/command.h"
+#include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/projection_files.h"
@@ -14,12 +15,6 @@ namespace oxhost::app {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string lower_extension(const std::string& of) {
-    std::string extension = fs::path(of).extension().string();
-    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return extension;
-}
 
 target from_file(const std::string& given, const std::string& extension) {
     std::error_code ignored;
@@ -36,7 +31,7 @@ target from_text(const std::string& given) {
     std::string text = given;
     std::ranges::replace_if(
         text, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
-    if (text.find_first_not_of(' ') == text.npos)
+    if (trimmed(text).empty())
         throw failure(exit_code::nothing_done, "the target is empty; \"none\" resets a projection");
     if (auto known = import_crs(text)) return {given, std::move(*known), {}};
     const std::string reason = text.find("proj=") != text.npos ? crs_of(text)->error : "";
@@ -48,7 +43,7 @@ target from_text(const std::string& given) {
 
 target read_target(const std::string& given) {
     if (given == "none") return {given, {}, {}};
-    const std::string extension = lower_extension(given);
+    const std::string extension = lower(fs::path(given).extension().string());
     const bool file = extension == ".pj4" || extension == ".prj";
     target read = file ? from_file(given, extension) : from_text(given);
     if (const auto system = crs_of(read.proj4); !system->valid())

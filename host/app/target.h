@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "app/temporary_folder.h"
+#include "base/files.h"
 
 namespace oxhost::app {
 

@@ -7,7 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "geodesy/atomic_file.h"
+#include "base/files.h"
 
 namespace oxhost {
 namespace {

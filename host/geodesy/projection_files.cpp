@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "geodesy/atomic_file.h"
+#include "base/files.h"
+#include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
 
@@ -23,12 +24,10 @@ std::string text_in(const std::string& path) {
     std::string text = *content;
     if (text.starts_with(byte_order_mark)) text.erase(0, byte_order_mark.size());
     const auto is_binary = [](unsigned char c) {
-        return c < ' ' && std::string_view("\t\r\n\v\f").find(static_cast<char>(c)) == std::string_view::npos;
+        return c < ' ' && blanks.find(static_cast<char>(c)) == blanks.npos;
     };
     if (std::ranges::any_of(text, is_binary)) return {};
-    const auto start = text.find_first_not_of(" \t\r\n\v\f");
-    if (start == text.npos) return {};
-    return text.substr(start, text.find_last_not_of(" \t\r\n\v\f") + 1 - start);
+    return std::string(trimmed(text));
 }
 
 bool is_proj4(std::string_view text) {
@@ -37,9 +36,7 @@ bool is_proj4(std::string_view text) {
 }
 
 std::string first_line(const std::string& text) {
-    std::string line = text.substr(0, text.find_first_of("\r\n"));
-    line.erase(line.find_last_not_of(" \t") + 1);
-    return line;
+    return std::string(trimmed(std::string_view(text).substr(0, text.find_first_of("\r\n"))));
 }
 
 /// The proj4 text of WKT in any of its dialects.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "geodesy/proj4_text.h"
+#include "base/numbers.h"
 
 namespace oxhost::headless {
 

@@ -28,7 +28,7 @@
 #include <string>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 #include "project/line_blob.h"
 
 namespace oxhost {

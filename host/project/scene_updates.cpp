@@ -1,7 +1,7 @@
 #include "project/scene_updates.h"
 
+#include "base/utf8.h"
 #include "session/journal.h"
-#include "session/string_adapter.h"
 
 namespace oxhost {
 

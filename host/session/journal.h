@@ -7,16 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 
 namespace oxhost {
-
-/// The vertex at which a transformation gave up.
-struct vertex_failure {
-    std::size_t vertex;  ///< counted from 0
-    point at;            ///< in the source projection
-    std::string reason;  ///< as the projection library puts it
-};
 
 /// One update bracket of one scene.
 struct scene_update {

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 #include "session/border.h"
 
 namespace {

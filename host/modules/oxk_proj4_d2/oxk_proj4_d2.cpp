@@ -7,15 +7,16 @@
 #include <memory>
 #include <stdexcept>
 
+#include "base/memo.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/description.h"
 #include "geodesy/favourites.h"
-#include "geodesy/pair_memo.h"
 #include "geodesy/projection_files.h"
 #include "geodesy/transformation.h"
 #include "session/border.h"
 #include "session/journal.h"
+#include "session/language.h"
 #include "session/string_adapter.h"
 
 using namespace oxhost;
@@ -60,9 +61,8 @@ void with_favourite(void* list, std::int32_t index, Use&& use) {
 bool ox_pj4_equal_w(const wchar_t* a, const wchar_t* b) {
     return at_border([&] {
         // converting the texts would cost more than the judgement
-        static pair_memo<wchar_t> judged;
-        return judged(a ? a : L"", b ? b : L"",
-                      [](std::wstring_view x, std::wstring_view y) { return equal(to_utf8(x), to_utf8(y)); });
+        static memo<bool, wchar_t> judged(32768);
+        return judged.of(a ? a : L"", b ? b : L"", [&] { return equal(to_utf8(a), to_utf8(b)); });
     });
 }
 

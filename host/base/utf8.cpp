@@ -1,6 +1,6 @@
-#include "session/string_adapter.h"
+#include "base/utf8.h"
 
-#include <cstdint>
+#include <algorithm>
 
 namespace oxhost {
 namespace {
@@ -75,9 +75,9 @@ std::wstring to_wide(std::string_view text) {
     return out;
 }
 
-void deliver(void* adapter, std::string_view text) {
-    const auto* target = static_cast<const string_adapter*>(adapter);
-    if (target && target->wide) target->wide(to_wide(text).c_str(), target->context);
+std::size_t character_count(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 }  // namespace oxhost
