@@ -2,7 +2,8 @@
 
 #include "app/command.h"
 #include "app/plug_in_texts.h"
-#include "geodesy/projection_files.h"
+#include "base/text.h"
+#include "session/journal.h"
 #include "shell/host_strings.h"
 
 namespace oxhost::app {
@@ -14,8 +15,8 @@ using shell::node_kind;
 namespace {
 
 void fail_on_file_error() {
-    if (const std::string error = projection_file_error(); !error.empty())
-        throw failure(exit_code::unreadable, error);
+    if (const auto error = journal::instance().take_file_failure())
+        throw failure(exit_code::unreadable, *error);
 }
 
 }  // namespace
@@ -33,7 +34,7 @@ void projection_dialog::open(const std::string& proj4, const std::function<void(
 std::string projection_dialog::text(dialog_hands& in) {
     const auto file = folder_ / "composed.pj4";
     save(in, file);
-    return load_pj4(file.string()).value_or("");
+    return std::string(trimmed(read_file(file).value_or("")));
 }
 
 void projection_dialog::choose_crs(dialog_hands& in, const std::string& identifier) {

@@ -21,10 +21,7 @@ target from_file(const std::string& given, const std::string& extension) {
     if (!fs::exists(given, ignored)) throw failure(exit_code::unreadable, given + ": no such file");
     if (!fs::is_regular_file(given, ignored) || access(given.c_str(), R_OK) != 0)
         throw failure(exit_code::unreadable, given + ": cannot be read");
-    const auto text = extension == ".pj4" ? load_pj4(given) : load_prj(given);
-    if (!text || text->empty())
-        throw failure(exit_code::nothing_done, given + ": holds no projection that PROJ knows");
-    return {given, *text, fs::path(given)};
+    return {given, extension == ".pj4" ? load_pj4(given) : load_prj(given), fs::path(given)};
 }
 
 target from_text(const std::string& given) {

@@ -4,7 +4,7 @@
 
 #include "app/command.h"
 #include "app/plug_in_texts.h"
-#include "geodesy/projection_files.h"
+#include "session/journal.h"
 
 namespace oxhost::app {
 
@@ -23,8 +23,8 @@ void set_target(dialog_hands& in, headless::scripted_user& user, const target& t
     }
     user.answer_file(file_of(to, folder));
     in.click(plug_in_text::load());
-    if (const std::string& error = projection_file_error(); !error.empty())
-        throw failure(exit_code::unreadable, error);
+    if (const auto error = journal::instance().take_file_failure())
+        throw failure(exit_code::unreadable, *error);
 }
 
 /// The rows of the table are the listed scenes; both are in project order.

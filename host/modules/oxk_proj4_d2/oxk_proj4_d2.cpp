@@ -7,6 +7,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "base/files.h"
 #include "base/memo.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
@@ -30,22 +31,21 @@ struct reprojector {
 
 favourite_list* as_list(void* list) { return static_cast<favourite_list*>(list); }
 
-void deliver_if_any(void* adapter, const std::optional<std::string>& text) {
-    if (text) deliver(adapter, *text);
-}
-
-/// A file function has nowhere to answer an error.
+/// A file function has nowhere to answer an error, so the journal tells how it ended.
 template <class Work>
 void with_file(Work&& work) {
     at_border([&] {
-        projection_file_error().clear();
+        std::optional<std::string> failure;
         try {
             work();
-        } catch (const std::exception& error) {
-            projection_file_error() = error.what();
+        } catch (const file_error& error) {
+            failure = error.what();
         }
+        journal::instance().file_function_ended(std::move(failure));
     });
 }
+
+void complain(const std::string& line) { std::cerr << "oxhost: " << line << '\n'; }
 
 /// Shows the favourite at `index` to `use`, if there is one.
 template <class Use>
@@ -75,15 +75,17 @@ void ox_pj4_get_short_text_w(const wchar_t* proj4, void* adapter) {
 }
 
 void ox_pj4_import_crs(const wchar_t* identifier, void* adapter) {
-    at_border([&] { deliver_if_any(adapter, import_crs(to_utf8(identifier))); });
+    at_border([&] {
+        if (const auto known = import_crs(to_utf8(identifier))) deliver(adapter, *known);
+    });
 }
 
 void ox_pj4_load_simple_w(const wchar_t* path, void* adapter) {
-    with_file([&] { deliver_if_any(adapter, load_pj4(to_utf8(path))); });
+    with_file([&] { deliver(adapter, load_pj4(to_utf8(path))); });
 }
 
 void ox_pj4_import_esri(const wchar_t* path, void* adapter) {
-    with_file([&] { deliver_if_any(adapter, load_prj(to_utf8(path))); });
+    with_file([&] { deliver(adapter, load_prj(to_utf8(path))); });
 }
 
 void ox_pj4_save_simple_w(const wchar_t* path, const wchar_t* proj4) {
@@ -102,7 +104,8 @@ void ox_pj4_fav_list_destroy(void* list) { std::unique_ptr<favourite_list> owner
 
 void ox_pj4_fav_list_deserialize(void* list) {
     at_border([&] {
-        if (list) as_list(list)->load();
+        if (!list) return;
+        if (const auto complaint = as_list(list)->load()) complain(*complaint);
     });
 }
 
@@ -110,8 +113,8 @@ void ox_pj4_fav_list_serialize(void* list) {
     at_border([&] {
         try {
             if (list) as_list(list)->save();
-        } catch (const std::exception& error) {
-            std::cerr << "oxhost: " << error.what() << '\n';
+        } catch (const file_error& error) {
+            complain(error.what());
         }
     });
 }
