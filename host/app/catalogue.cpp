@@ -3,10 +3,10 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/plug_in_texts.h"
-#include "app/projection_dialog_drive.h"
 #include "base/numbers.h"
 #include "base/utf8.h"
+#include "run/plug_in_texts.h"
+#include "run/projection_dialog.h"
 
 namespace oxhost::app {
 

@@ -2,10 +2,10 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/target.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/description.h"
 #include "geodesy/warnings.h"
+#include "run/target.h"
 
 namespace oxhost::app {
 

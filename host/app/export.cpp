@@ -2,10 +2,10 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/target.h"
 #include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/transformation.h"
+#include "run/target.h"
 
 namespace oxhost::app {
 

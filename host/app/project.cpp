@@ -2,11 +2,11 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/dialog_text.h"
-#include "app/plug_in_texts.h"
-#include "app/projection_dialog_drive.h"
-#include "app/target.h"
 #include "base/files.h"
+#include "headless/dialog_text.h"
+#include "run/plug_in_texts.h"
+#include "run/projection_dialog.h"
+#include "run/target.h"
 
 namespace oxhost::app {
 

@@ -1,6 +1,6 @@
 #include <CLI/CLI.hpp>
 
-#include "app/reprojection.h"
+#include "run/reprojection.h"
 
 namespace oxhost::app {
 

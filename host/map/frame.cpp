@@ -1,11 +1,11 @@
-#include "app/map_frame.h"
+#include "map/frame.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-#include "app/svg.h"
 #include "base/numbers.h"
+#include "map/svg.h"
 #include "session/language.h"
 
 namespace oxhost::app {

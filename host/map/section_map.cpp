@@ -1,15 +1,15 @@
-#include "app/section_map.h"
+#include "map/section_map.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-#include "app/map_captions.h"
-#include "app/map_frame.h"
-#include "app/map_regions.h"
-#include "app/svg.h"
 #include "geodesy/description.h"
 #include "geodesy/measure.h"
+#include "map/captions.h"
+#include "map/frame.h"
+#include "map/regions.h"
+#include "map/svg.h"
 
 namespace oxhost::app {
 

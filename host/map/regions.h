@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "app/map_frame.h"
+#include "map/frame.h"
 
 namespace oxhost::app {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/run_record.h"
+#include "run/record.h"
 
 namespace oxhost::app {
 

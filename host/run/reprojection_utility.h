@@ -4,9 +4,9 @@
 #include <functional>
 #include <vector>
 
-#include "app/target.h"
 #include "headless/scripted_user.h"
 #include "project/project.h"
+#include "run/target.h"
 #include "shell/bundle_host.h"
 
 namespace oxhost::app {

@@ -1,4 +1,4 @@
-#include "app/map_regions.h"
+#include "map/regions.h"
 
 #include <algorithm>
 #include <cmath>

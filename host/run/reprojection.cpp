@@ -1,14 +1,14 @@
-#include "app/reprojection.h"
+#include "run/reprojection.h"
 
 #include <iostream>
 
-#include "app/advice.h"
-#include "app/outcome.h"
-#include "app/report.h"
-#include "app/section_map.h"
-#include "app/selection.h"
-#include "app/utility_drive.h"
 #include "base/files.h"
+#include "map/section_map.h"
+#include "run/advice.h"
+#include "run/outcome.h"
+#include "run/report.h"
+#include "run/reprojection_utility.h"
+#include "run/selection.h"
 
 namespace oxhost::app {
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "app/utility_drive.h"
+#include "run/reprojection_utility.h"
 
 namespace oxhost::app {
 

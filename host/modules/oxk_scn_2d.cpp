@@ -1,6 +1,6 @@
 #include "border/host_api/oxk_scn_2d.h"
 
-#include "project/scene_updates.h"
+#include "modules/scene_updates.h"
 #include "session/border.h"
 #include "session/string_adapter.h"
 

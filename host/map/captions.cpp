@@ -1,4 +1,4 @@
-#include "app/map_captions.h"
+#include "map/captions.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 /// The subcommand `reproject`.
 
 #include "app/command.h"
-#include "app/target.h"
+#include "run/target.h"
 #include "session/console_messages.h"
 
 namespace oxhost::app {

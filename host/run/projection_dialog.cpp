@@ -1,8 +1,8 @@
-#include "app/projection_dialog_drive.h"
+#include "run/projection_dialog.h"
 
 #include "app/command.h"
-#include "app/plug_in_texts.h"
 #include "base/text.h"
+#include "run/plug_in_texts.h"
 #include "session/journal.h"
 #include "shell/host_strings.h"
 

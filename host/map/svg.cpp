@@ -1,4 +1,4 @@
-#include "app/svg.h"
+#include "map/svg.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "app/outcome.h"
+#include "run/outcome.h"
 
 #include <algorithm>
 #include <array>

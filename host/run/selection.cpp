@@ -1,4 +1,4 @@
-#include "app/selection.h"
+#include "run/selection.h"
 
 #include <set>
 

@@ -1,4 +1,4 @@
-#include "app/dialog_text.h"
+#include "headless/dialog_text.h"
 
 #include "base/numbers.h"
 

@@ -1,4 +1,4 @@
-#include "app/advice.h"
+#include "run/advice.h"
 
 #include <algorithm>
 #include <map>

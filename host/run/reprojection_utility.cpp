@@ -1,9 +1,9 @@
-#include "app/utility_drive.h"
+#include "run/reprojection_utility.h"
 
 #include <algorithm>
 
 #include "app/command.h"
-#include "app/plug_in_texts.h"
+#include "run/plug_in_texts.h"
 #include "session/journal.h"
 
 namespace oxhost::app {

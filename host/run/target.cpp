@@ -1,4 +1,4 @@
-#include "app/target.h"
+#include "run/target.h"
 
 #include <unistd.h>
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/map_frame.h"
+#include "map/frame.h"
 
 namespace oxhost::app {
 

@@ -1,4 +1,4 @@
-#include "project/scene_updates.h"
+#include "modules/scene_updates.h"
 
 #include "base/utf8.h"
 #include "session/journal.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "app/outcome.h"
+#include "run/outcome.h"
 
 namespace oxhost::app {
 

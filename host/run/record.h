@@ -1,8 +1,8 @@
 #pragma once
 /// All that reports and maps tell of.
 
-#include "app/outcome.h"
-#include "app/reprojection.h"
+#include "run/outcome.h"
+#include "run/reprojection.h"
 
 namespace oxhost::app {
 
