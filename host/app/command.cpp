@@ -2,24 +2,36 @@
 
 #include <CLI/CLI.hpp>
 
+#include "base/files.h"
+#include "project/project.h"
+#include "run/failure.h"
+#include "run/plug_in_texts.h"
+#include "session/language.h"
+#include "shell/bundle.h"
+
 namespace oxhost::app {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr auto default_bundle = "oxk_scn2d_prf_reproj.so";
-
-bool can_be_read(const fs::path& file) {
-    try {
-        project::open(file, open_mode::read_only);
-        return true;
-    } catch (const project_error&) {
-        return false;
-    }
-}
+constexpr std::string_view default_bundle = run::plug_in_text::bundle_file;
 
 }  // namespace
+
+exit_code code_of_current_exception() try { throw; } catch (const failure& error) {
+    return error.code;
+} catch (const run::failure& error) {
+    return error.kind == run::trouble::unreadable ? exit_code::unreadable : exit_code::nothing_done;
+} catch (const shell::bundle_error&) {
+    return exit_code::unreadable;
+} catch (const project_error&) {
+    return exit_code::nothing_done;
+} catch (const file_error&) {
+    return exit_code::nothing_done;
+} catch (const std::exception&) {
+    return exit_code::internal;
+}
 
 void add_language(CLI::App& subcommand) {
     subcommand
@@ -29,23 +41,21 @@ void add_language(CLI::App& subcommand) {
         ->check(CLI::IsMember({"ru", "en"}));
 }
 
+void add_answers(CLI::App& subcommand, console_options& into) {
+    auto* yes = subcommand.add_flag_callback(
+        "--yes", [&into] { into.questions = answering::yes; }, "Answer questions with yes");
+    subcommand
+        .add_flag_callback(
+            "--no", [&into] { into.questions = answering::no; }, "Answer questions with no")
+        ->excludes(yes);
+}
+
 void add_bundle(CLI::App& subcommand, fs::path& into) {
     into = fs::read_symlink("/proc/self/exe").parent_path() / default_bundle;
     subcommand
         .add_option("--bundle", into,
                     "The plug-in (default: " + std::string(default_bundle) + " beside this program)")
         ->type_name("FILE");
-}
-
-std::unique_ptr<project> open_project(const fs::path& file, open_mode mode) try {
-    return project::open(file, mode);
-} catch (const project_error& e) {
-    const bool only_writing_fails = mode == open_mode::read_write && can_be_read(file);
-    throw failure(only_writing_fails ? exit_code::nothing_done : exit_code::unreadable, e.what());
-}
-
-std::string name_of(const scene& of) {
-    return "scene " + std::to_string(of.index) + " \"" + of.caption + '"';
 }
 
 }  // namespace oxhost::app

@@ -3,8 +3,6 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/version.h"
-#include "base/files.h"
 
 namespace {
 
@@ -14,7 +12,7 @@ int answer(exit_code code) { return static_cast<int>(code); }
 
 int run(int argc, char** argv) {
     CLI::App app{"Reprojects the section lines of 2D profile scenes", "oxhost"};
-    app.set_version_flag("--version", std::string("oxhost ") + oxhost_version);
+    app.set_version_flag("--version", "oxhost " OXHOST_VERSION);
     app.require_subcommand(0, 1);
     action chosen;
     for (const auto add :
@@ -40,14 +38,8 @@ int main(int argc, char** argv) {
     std::setlocale(LC_MESSAGES, "");
     try {
         return run(argc, argv);
-    } catch (const failure& e) {
-        std::cerr << "oxhost: " << e.what() << '\n';
-        return answer(e.code);
-    } catch (const oxhost::file_error& e) {
-        std::cerr << "oxhost: " << e.what() << '\n';
-        return answer(exit_code::nothing_done);
     } catch (const std::exception& e) {
         std::cerr << "oxhost: " << e.what() << '\n';
-        return answer(exit_code::internal);
+        return answer(code_of_current_exception());
     }
 }

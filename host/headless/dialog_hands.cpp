@@ -108,6 +108,10 @@ node& dialog_hands::tool(std::string_view id) {
                      "; it has " + joined(ids));
 }
 
+std::vector<node*> dialog_hands::all_in_group(node_kind kind, std::string_view group) {
+    return all(dialog_, [&](node& each) { return each.kind() == kind && stands_in_group(each, group); });
+}
+
 node& dialog_hands::menu_button() {
     return the_only(dialog_, all(dialog_, [](node& n) { return n.has_menu(); }), "button with a menu");
 }

@@ -1,8 +1,8 @@
-#include "headless/dialog_text.h"
+#include "headless/dialog_hands.h"
 
 #include "base/numbers.h"
 
-namespace oxhost::app {
+namespace oxhost::headless {
 
 using shell::node;
 using shell::node_kind;
@@ -115,4 +115,4 @@ std::string dialog_text(shell::open_dialog& dialog) {
     return dialog.caption() + '\n' + out.text();
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::headless

@@ -5,7 +5,7 @@
 
 #include "base/utf8.h"
 
-namespace oxhost::app {
+namespace oxhost::map {
 
 namespace {
 
@@ -16,16 +16,16 @@ constexpr std::size_t most = 200;
 
 }  // namespace
 
-double map_captions::width_of(std::string_view text) {
+double captions::width_of(std::string_view text) {
     return letter_width * static_cast<double>(character_count(text));
 }
 
-bool map_captions::is_free(const rectangle& box) const {
+bool captions::is_free(const rectangle& box) const {
     return within_.contains(box) &&
            std::ranges::none_of(taken_, [&](const rectangle& other) { return other.overlaps(box); });
 }
 
-void map_captions::avoid(const polyline& path) {
+void captions::avoid(const polyline& path) {
     constexpr double step = 8;
     for (std::size_t i = 1; i < path.size(); ++i) {
         const point from = path[i - 1], to = path[i];
@@ -36,7 +36,7 @@ void map_captions::avoid(const polyline& path) {
     }
 }
 
-void map_captions::add(const std::string& text, const polyline& path) {
+void captions::add(const std::string& text, const polyline& path) {
     if (path.empty() || placed_.size() >= most) return;
     const double width = width_of(text);
     const point middle = path[path.size() / 2];
@@ -59,7 +59,7 @@ void map_captions::add(const std::string& text, const polyline& path) {
     const auto found = std::ranges::find_if(tries, [&](const rectangle& each) { return is_free(each); });
     if (found == tries.end()) return;
     taken_.push_back(*found);
-    placed_.push_back({text, found->x, found->y + line_height - 3});
+    placed_.push_back({text, *found});
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::map

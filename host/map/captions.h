@@ -5,21 +5,25 @@
 #include <string_view>
 #include <vector>
 
-#include "map/frame.h"
+#include "base/line.h"
+#include "map/svg.h"
 
-namespace oxhost::app {
+namespace oxhost::map {
 
-class map_captions {
+/// Lines are in the picture's units.
+class captions {
 public:
     struct caption {
         std::string text;
-        double x, y;  ///< where its baseline begins
+        rectangle place;
+
+        double baseline() const { return place.y + place.height - 3; }
     };
 
-    explicit map_captions(const rectangle& within) : within_(within) {}
+    explicit captions(const rectangle& within) : within_(within) {}
 
+    /// Captions that are added later keep off this box, or line.
     void avoid(const rectangle& box) { taken_.push_back(box); }
-    /// Captions keep off this line. Paths are in the picture's units.
     void avoid(const polyline& path);
     void add(const std::string& text, const polyline& path);
     const std::vector<caption>& placed() const { return placed_; }
@@ -35,4 +39,4 @@ private:
     std::vector<rectangle> taken_;
 };
 
-}  // namespace oxhost::app
+}  // namespace oxhost::map

@@ -5,10 +5,8 @@
 #include <numbers>
 
 #include "base/numbers.h"
-#include "map/svg.h"
-#include "session/language.h"
 
-namespace oxhost::app {
+namespace oxhost::map {
 
 namespace {
 
@@ -34,78 +32,73 @@ std::string degrees_text(double degrees, char negative, char positive) {
     return text;
 }
 
-std::string text_at(double x, double y, const char* anchor, const std::string& text) {
-    return "<text class=\"degrees\" x=\"" + svg::number(x) + "\" y=\"" + svg::number(y) +
-           "\" text-anchor=\"" + anchor + "\">" + text + "</text>\n";
+std::string degrees_label(double x, double y, const char* anchor, const std::string& text) {
+    return svg::text_element("degrees", x, y, text, anchor);
 }
 
 }  // namespace
 
-map_frame::map_frame(const rectangle& place, const geographic_extent& content) : place_(place) {
-    const double middle_x = (content.min_x + content.max_x) / 2;
-    const double middle_y = (content.min_y + content.max_y) / 2;
-    const double shrink = cosine(middle_y);
-    double width = std::max(content.max_x - content.min_x, smallest_side) * (1 + 2 * margin);
-    double height = std::max(content.max_y - content.min_y, smallest_side) * (1 + 2 * margin);
+frame::frame(const rectangle& place, const geographic_extent& content) : place_(place) {
+    const point middle = content.middle();
+    const double shrink = cosine(middle.y);
+    double width = std::max(content.width(), smallest_side) * (1 + 2 * margin);
+    double height = std::max(content.height(), smallest_side) * (1 + 2 * margin);
     width = std::max(width, height * place.width / place.height / shrink);
     height = std::max(height, width * shrink * place.height / place.width);
-    shown_ = {middle_x - width / 2, middle_y - height / 2, middle_x + width / 2, middle_y + height / 2};
+    shown_ = {middle.x - width / 2, middle.y - height / 2, middle.x + width / 2, middle.y + height / 2};
 }
 
-point map_frame::to_picture(const point& degrees) const {
-    return {place_.x + (degrees.x - shown_.min_x) / (shown_.max_x - shown_.min_x) * place_.width,
+point frame::to_picture(const point& degrees) const {
+    return {place_.x + (degrees.x - shown_.min_x) / shown_.width() * place_.width,
             place_.y + (shown_.max_y - degrees.y) * pixels_per_degree_north()};
 }
 
-rectangle map_frame::to_picture(const geographic_extent& degrees) const {
+rectangle frame::to_picture(const geographic_extent& degrees) const {
     const point corner = to_picture(point{degrees.min_x, degrees.max_y});
     const point opposite = to_picture(point{degrees.max_x, degrees.min_y});
     return {corner.x, corner.y, opposite.x - corner.x, opposite.y - corner.y};
 }
 
-std::string map_frame::graticule() const {
+std::string frame::graticule() const {
     constexpr double lines_across = 4;
     const double bottom = place_.y + place_.height;
-    std::string drawn = "<rect class=\"ground\" x=\"" + svg::number(place_.x) + "\" y=\"" +
-                        svg::number(place_.y) + "\" width=\"" + svg::number(place_.width) + "\" height=\"" +
-                        svg::number(place_.height) + "\"/>\n";
+    std::string drawn = svg::rectangle_element("ground", place_);
     std::string path;
-    const double step_x = round_below((shown_.max_x - shown_.min_x) / lines_across);
+    const double step_x = round_below(shown_.width() / lines_across);
     for (double n = std::ceil(shown_.min_x / step_x); n * step_x < shown_.max_x; ++n) {
         const double x = to_picture(point{n * step_x, 0}).x;
-        path += "M" + svg::number(x) + ' ' + svg::number(place_.y) + "V" + svg::number(bottom);
-        drawn += text_at(x, bottom + 13, "middle", degrees_text(n * step_x, 'W', 'E'));
+        path += 'M' + svg::pair(x, place_.y) + 'V' + svg::number(bottom);
+        drawn += degrees_label(x, bottom + 13, "middle", degrees_text(n * step_x, 'W', 'E'));
     }
-    const double step_y = round_below((shown_.max_y - shown_.min_y) / lines_across);
+    const double step_y = round_below(shown_.height() / lines_across);
     for (double n = std::ceil(shown_.min_y / step_y); n * step_y < shown_.max_y; ++n) {
         if (std::abs(n * step_y) > 90) continue;
         const double y = to_picture(point{0, n * step_y}).y;
-        path +=
-            "M" + svg::number(place_.x) + ' ' + svg::number(y) + "H" + svg::number(place_.x + place_.width);
-        drawn += text_at(place_.x - 4, y + 4, "end", degrees_text(n * step_y, 'S', 'N'));
+        path += 'M' + svg::pair(place_.x, y) + 'H' + svg::number(place_.x + place_.width);
+        drawn += degrees_label(place_.x - 4, y + 4, "end", degrees_text(n * step_y, 'S', 'N'));
     }
-    return drawn + "<path class=\"graticule\" d=\"" + path + "\"/>\n";
+    return drawn + svg::path_element("graticule", path);
 }
 
-double map_frame::metres_per_pixel() const { return metres_per_degree / pixels_per_degree_north(); }
+double frame::metres_per_pixel() const { return metres_per_degree / pixels_per_degree_north(); }
 
-double map_frame::scale_bar_metres() const { return round_below(place_.width / 4 * metres_per_pixel()); }
+double frame::scale_bar_metres() const { return round_below(place_.width / 4 * metres_per_pixel()); }
 
-rectangle map_frame::scale_bar_place() const {
+rectangle frame::scale_bar_place() const {
     constexpr double room = 12, height = 24;
     const double length = scale_bar_metres() / metres_per_pixel();
     return {place_.x + place_.width - length - room, place_.y + place_.height - 10 - height, length, height};
 }
 
-std::string map_frame::scale_bar() const {
+std::string frame::scale_bar(language wanted) const {
     const double metres = scale_bar_metres();
     const auto [x, top, length, height] = scale_bar_place();
     const double y = top + height;
     const std::string caption = metres < 1000
-                                    ? number_text(metres) + std::string(in_language(" м", " m"))
-                                    : number_text(metres / 1000) + std::string(in_language(" км", " km"));
-    return "<path class=\"scale\" d=\"M" + svg::number(x) + ' ' + svg::number(y - 4) + "v4h" +
-           svg::number(length) + "v-4\"/>\n" + text_at(x + length / 2, y - 4, "middle", caption);
+                                    ? number_text(metres) + std::string(text_in(wanted, " м", " m"))
+                                    : number_text(metres / 1000) + std::string(text_in(wanted, " км", " km"));
+    return svg::path_element("scale", 'M' + svg::pair(x, y - 4) + "v4h" + svg::number(length) + "v-4") +
+           degrees_label(x + length / 2, y - 4, "middle", caption);
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::map

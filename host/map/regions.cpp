@@ -6,7 +6,7 @@
 #include <limits>
 #include <map>
 
-namespace oxhost::app {
+namespace oxhost::map {
 
 namespace {
 
@@ -46,28 +46,28 @@ private:
     std::map<cell, cell> parent_;
 };
 
-std::vector<map_region> regions_of(const std::vector<geographic_extent>& lines, double cell_size) {
+std::vector<region> regions_of(const std::vector<geographic_extent>& lines, double cell_size) {
     cell_groups groups(cell_size);
     for (const auto& line : lines)
         if (!line.empty()) groups.add(line);
     groups.join_neighbours();
-    std::map<cell, map_region> found;
+    std::map<cell, region> found;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (lines[i].empty()) continue;
-        map_region& region = found[groups.root(groups.cell_of(lines[i].min_x, lines[i].min_y))];
-        region.bounds.add(lines[i]);
-        region.lines.push_back(i);
+        region& joined = found[groups.root(groups.cell_of(lines[i].min_x, lines[i].min_y))];
+        joined.bounds.add(lines[i]);
+        joined.lines.push_back(i);
     }
-    std::vector<map_region> regions;
-    for (auto& [ignored, region] : found) regions.push_back(std::move(region));
+    std::vector<region> regions;
+    for (auto& [ignored, joined] : found) regions.push_back(std::move(joined));
     return regions;
 }
 
 /// What two regions would need together, in square degrees; long thin ones count as square.
-double need(const map_region& a, const map_region& b) {
+double need(const region& a, const region& b) {
     geographic_extent both = a.bounds;
     both.add(b.bounds);
-    return std::hypot(both.max_x - both.min_x, both.max_y - both.min_y);
+    return std::hypot(both.width(), both.height());
 }
 
 bool overlap(const geographic_extent& a, const geographic_extent& b) {
@@ -76,7 +76,7 @@ bool overlap(const geographic_extent& a, const geographic_extent& b) {
 
 /// Joins the pair that stays smallest, an overlapping pair before all others. False when nothing is left to
 /// join: few enough, and all apart.
-bool join_one(std::vector<map_region>& regions, std::size_t most) {
+bool join_one(std::vector<region>& regions, std::size_t most) {
     std::size_t first = 0, second = 0;
     double best = std::numeric_limits<double>::infinity();
     for (std::size_t i = 0; i < regions.size(); ++i)
@@ -98,16 +98,16 @@ bool join_one(std::vector<map_region>& regions, std::size_t most) {
 
 }  // namespace
 
-std::vector<map_region> find_regions(const std::vector<geographic_extent>& lines, std::size_t most) {
+std::vector<region> find_regions(const std::vector<geographic_extent>& lines, std::size_t most) {
     constexpr std::size_t most_to_compare = 64;
     double cell_size = 1;  // degrees
     auto regions = regions_of(lines, cell_size);
     while (regions.size() > most_to_compare) regions = regions_of(lines, cell_size *= 1.5);
     while (join_one(regions, most)) {
     }
-    std::ranges::sort(regions, {}, [](const map_region& r) { return r.bounds.min_x; });
-    for (map_region& each : regions) std::ranges::sort(each.lines);
+    std::ranges::sort(regions, {}, [](const region& r) { return r.bounds.min_x; });
+    for (region& each : regions) std::ranges::sort(each.lines);
     return regions;
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::map

@@ -51,6 +51,9 @@ struct scene {
     std::optional<line_summary> line;  ///< empty = no line, hence no profile data
 };
 
+/// `scene 3 "caption"`, as messages call it.
+std::string name_of(const scene& named);
+
 /// A scene to be added.
 struct new_scene {
     std::string caption;

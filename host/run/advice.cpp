@@ -4,20 +4,21 @@
 #include <map>
 #include <set>
 
-#include "app/command.h"
 #include "geodesy/warnings.h"
+#include "session/language.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 namespace {
 
 /// The first scene and those that hold the extremes of the four sides.
-std::set<std::size_t> outermost(const std::vector<scene_result>& scenes, const std::vector<std::size_t>& of) {
-    const auto bounds = [&](std::size_t i) { return scenes[i].of->line->bounds; };
+std::set<std::size_t> outermost(const std::vector<scene_result>& scenes,
+                                const std::vector<std::size_t>& members) {
+    const auto bounds = [&](std::size_t i) { return scenes[i].subject->line->bounds; };
     const auto farthest = [&](auto side) {
-        return *std::ranges::max_element(of, {}, [&](std::size_t i) { return side(bounds(i)); });
+        return *std::ranges::max_element(members, {}, [&](std::size_t i) { return side(bounds(i)); });
     };
-    return {of.front(), farthest([](const extent& e) { return -e.min_x; }),
+    return {members.front(), farthest([](const extent& e) { return -e.min_x; }),
             farthest([](const extent& e) { return e.max_x; }),
             farthest([](const extent& e) { return -e.min_y; }),
             farthest([](const extent& e) { return e.max_y; })};
@@ -31,7 +32,7 @@ std::string without_numbers(std::string text) {
 
 }  // namespace
 
-std::vector<std::string> advise(project& in, const std::vector<scene_result>& scenes,
+std::vector<std::string> advise(project& opened, const std::vector<scene_result>& scenes,
                                 const std::string& target) {
     if (target.empty()) return {};
     std::map<std::string, std::vector<std::size_t>> by_source;
@@ -41,10 +42,11 @@ std::vector<std::string> advise(project& in, const std::vector<scene_result>& sc
     for (const auto& [source, members] : by_source) {
         if (source.empty()) continue;
         for (const std::size_t i : outermost(scenes, members)) {
-            const auto lines = warnings_for(source, target, in.read_line(*scenes[i].of), current_language());
+            const auto lines =
+                warnings_for(source, target, opened.read_line(*scenes[i].subject), current_language());
             for (const std::string& line : lines)
                 if (known.insert(source + '\n' + without_numbers(line)).second)
-                    found.emplace(i, name_of(*scenes[i].of) + ": " + line);
+                    found.emplace(i, name_of(*scenes[i].subject) + ": " + line);
         }
     }
     std::vector<std::string> said;
@@ -55,4 +57,4 @@ std::vector<std::string> advise(project& in, const std::vector<scene_result>& sc
     return said;
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 
-#include "app/command.h"
 #include "base/numbers.h"
+#include "base/text.h"
+#include "session/language.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 namespace {
 
@@ -37,13 +38,12 @@ outcome outcome_of(const scene_update& update, const std::string& source, const 
 
 }  // namespace
 
-std::string_view name_of(outcome of) { return words[static_cast<std::size_t>(of)].english; }
+std::string_view name_of(outcome told) { return words[static_cast<std::size_t>(told)].english; }
 
 std::vector<scene_result> before_run(const std::vector<scene*>& scenes) {
     std::vector<scene_result> results;
     results.reserve(scenes.size());
-    for (scene* each : scenes) results.push_back({each, each->proj4, {}, {}, false});
-    for (scene_result& each : results) each.came_to = outcome::not_attempted;
+    for (scene* each : scenes) results.push_back({.subject = each, .source = each->proj4, .failure = {}});
     return results;
 }
 
@@ -52,26 +52,26 @@ std::size_t read_journal(std::vector<scene_result>& results, const std::string& 
     for (; seen < updates.size(); ++seen) {
         const scene_update& update = updates[seen];
         const auto found = std::ranges::lower_bound(results, update.scene, {},
-                                                    [](const scene_result& r) { return r.of->index; });
-        if (found == results.end() || found->of->index != update.scene) continue;
+                                                    [](const scene_result& r) { return r.subject->index; });
+        if (found == results.end() || found->subject->index != update.scene) continue;
         found->failure = failure_of(update);
         found->came_to = found->failure ? outcome::failed : outcome_of(update, found->source, target);
     }
     return seen;
 }
 
-std::size_t count(const std::vector<scene_result>& results, outcome of) {
-    return static_cast<std::size_t>(std::ranges::count(results, of, &scene_result::came_to));
+std::size_t count(const std::vector<scene_result>& results, outcome counted) {
+    return static_cast<std::size_t>(std::ranges::count(results, counted, &scene_result::came_to));
 }
 
-std::string failure_line(const scene_result& of) {
-    const std::string place = of.of->owner->path().string() + ": " + name_of(*of.of) + ": ";
-    if (!of.failure->vertex)  // a refusal of the project's file names the place already
-        return of.failure->reason.starts_with(of.of->owner->path().string()) ? of.failure->reason
-                                                                             : place + of.failure->reason;
-    const vertex_failure& at = *of.failure->vertex;
-    return place + "vertex " + std::to_string(at.vertex) + " (" + number_text(at.at.x) + ", " +
-           number_text(at.at.y) + "): " + at.reason;
+std::string failure_line(const scene_result& result) {
+    const std::string file = result.subject->owner->path().string();
+    const std::string place = file + ": " + name_of(*result.subject) + ": ";
+    const auto& [reason, vertex] = *result.failure;
+    if (!vertex)
+        return reason.starts_with(file) ? reason : place + reason;  // the project's own refusals name it
+    return place + "vertex " + std::to_string(vertex->vertex) + " (" + number_text(vertex->at.x) + ", " +
+           number_text(vertex->at.y) + "): " + vertex->reason;
 }
 
 std::string summary(const std::vector<scene_result>& results) {
@@ -79,12 +79,11 @@ std::string summary(const std::vector<scene_result>& results) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::size_t n = count(results, static_cast<outcome>(i));
         if (n == 0) continue;
-        if (!line.empty()) line += ", ";
         const std::string number = std::to_string(n);
-        line += in_language(std::string(words[i].russian) + ": " + number,
-                            number + ' ' + std::string(words[i].english));
+        append_item(line, in_language(std::string(words[i].russian) + ": " + number,
+                                      number + ' ' + std::string(words[i].english)));
     }
     return line;
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

@@ -1,12 +1,15 @@
 #include "run/projection_dialog.h"
 
-#include "app/command.h"
+#include <algorithm>
+
 #include "base/text.h"
+#include "run/failure.h"
 #include "run/plug_in_texts.h"
+#include "run/target.h"
 #include "session/journal.h"
 #include "shell/host_strings.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 using headless::dialog_hands;
 using shell::button_role;
@@ -16,50 +19,58 @@ namespace {
 
 void fail_on_file_error() {
     if (const auto error = journal::instance().take_file_failure())
-        throw failure(exit_code::unreadable, *error);
+        throw failure(trouble::unreadable, *error);
 }
 
 }  // namespace
 
 void projection_dialog::open(const std::string& proj4, const std::function<void(dialog_hands&)>& act) {
-    user_.in_dialog(plug_in_text::projection_dialog, [&](dialog_hands& in) { act(in); });
-    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& in) {
-        if (!proj4.empty()) load(in, file_of({proj4, proj4, {}}, folder_));
-        in.click(shell::text_of(shell::host_string::projection));
-        in.press(button_role::reject);
+    user_.in_dialog(plug_in_text::projection_dialog, [&](dialog_hands& hands) { act(hands); });
+    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
+        if (!proj4.empty()) load(hands, file_of({proj4, proj4, {}}, folder_));
+        hands.click(shell::text_of(shell::host_string::projection));
+        hands.press(button_role::reject);
     });
     host_.run(plug_in_text::utility);
 }
 
-std::string projection_dialog::text(dialog_hands& in) {
+std::string projection_dialog::text(dialog_hands& hands) {
     const auto file = folder_ / "composed.pj4";
-    save(in, file);
+    save(hands, file);
     return std::string(trimmed(read_file(file).value_or("")));
 }
 
-void projection_dialog::choose_crs(dialog_hands& in, const std::string& identifier) {
+void projection_dialog::choose_crs(dialog_hands& hands, const std::string& identifier) {
     user_.in_dialog(plug_in_text::crs_dialog, [&](dialog_hands& asked) {
         asked.only(node_kind::input).type(identifier);
         const auto buttons = asked.dialog().buttons();
-        const bool known = std::ranges::any_of(buttons, [](const shell::dialog_button& b) {
-            return b.role == button_role::accept && b.enabled;
+        const bool known = std::ranges::any_of(buttons, [](const shell::dialog_button& button) {
+            return button.role == button_role::accept && button.enabled;
         });
-        if (!known) throw failure(exit_code::nothing_done, '"' + identifier + "\": no such projection");
+        if (!known) throw failure(trouble::refused, '"' + identifier + "\": no such projection");
         asked.press(button_role::accept);
     });
-    in.click("EPSG");
+    hands.click(plug_in_text::epsg());
 }
 
-void projection_dialog::save(dialog_hands& in, const std::filesystem::path& file) {
+void projection_dialog::take_favourite(dialog_hands& hands, std::uint32_t number) {
+    shell::table_model& favourites = *hands.only(node_kind::outline).rows();
+    if (number == 0 || number > favourites.row_count())
+        throw failure(trouble::refused, "no favourite " + std::to_string(number) + " among the " +
+                                            std::to_string(favourites.row_count()));
+    favourites.make_current(number - 1);
+}
+
+void projection_dialog::save(dialog_hands& hands, const std::filesystem::path& file) {
     user_.answer_file(file);
-    in.click(plug_in_text::save());
+    hands.click(plug_in_text::save());
     fail_on_file_error();
 }
 
-void projection_dialog::load(dialog_hands& in, const std::filesystem::path& file) {
+void projection_dialog::load(dialog_hands& hands, const std::filesystem::path& file) {
     user_.answer_file(file);
-    in.click(plug_in_text::load());
+    hands.click(plug_in_text::load());
     fail_on_file_error();
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

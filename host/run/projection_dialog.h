@@ -1,11 +1,15 @@
 #pragma once
 /// The plug-in's projection dialog, reached as a person reaches it: through the target of its utility.
 
+#include <filesystem>
 #include <functional>
+#include <string>
 
-#include "run/reprojection_utility.h"
+#include "base/files.h"
+#include "headless/scripted_user.h"
+#include "shell/bundle_host.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 class projection_dialog {
 public:
@@ -16,13 +20,15 @@ public:
     /// dismisses it. Favourites are stored then.
     void open(const std::string& proj4, const std::function<void(headless::dialog_hands&)>& act);
 
-    // For `act`:
+    // For `act`, which hands on its hands. They throw `failure`.
     /// The text that confirming would give now.
-    std::string text(headless::dialog_hands& in);
+    std::string text(headless::dialog_hands& hands);
     /// Types an identifier into the dialog behind the EPSG button and confirms.
-    void choose_crs(headless::dialog_hands& in, const std::string& identifier);
-    void save(headless::dialog_hands& in, const std::filesystem::path& file);
-    void load(headless::dialog_hands& in, const std::filesystem::path& file);
+    void choose_crs(headless::dialog_hands& hands, const std::string& identifier);
+    /// Takes a favourite, counted from 1.
+    void take_favourite(headless::dialog_hands& hands, std::uint32_t number);
+    void save(headless::dialog_hands& hands, const std::filesystem::path& file);
+    void load(headless::dialog_hands& hands, const std::filesystem::path& file);
 
 private:
     temporary_folder folder_;
@@ -30,4 +36,4 @@ private:
     shell::bundle_host host_;
 };
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

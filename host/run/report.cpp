@@ -1,10 +1,15 @@
 #include "run/report.h"
 
-#include "app/json.h"
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+
+#include "geodesy/description.h"
 #include "geodesy/measure.h"
 #include "geodesy/transformation.h"
+#include "map/section_map.h"
+#include "session/language.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 namespace {
 
@@ -34,8 +39,8 @@ std::optional<double> length(const polyline& line, const std::string& proj4) {
 
 /// What PROJ did to the line, told by doing it again: where several operations serve a pair of
 /// projections, the place decides.
-json operation_of(const scene_result& of, const polyline& before, const std::string& target) {
-    const auto way = transformation::between(of.source, target);
+json operation_of(const scene_result& result, const polyline& before, const std::string& target) {
+    const auto way = transformation::between(result.source, target);
     polyline copy = before;
     way->apply(copy);
     const operation_info info = way->operation();
@@ -46,60 +51,98 @@ json operation_of(const scene_result& of, const polyline& before, const std::str
             {"target_shift", or_null(info.target_shift)}};
 }
 
-json failure_of(const scene_result& of) {
-    if (!of.failure) return {};
-    json told{{"reason", of.failure->reason}, {"vertex", nullptr}, {"x", nullptr}, {"y", nullptr}};
-    if (const auto& at = of.failure->vertex) {
-        told["vertex"] = at->vertex;
-        told["x"] = at->at.x;
-        told["y"] = at->at.y;
+json failure_of(const scene_result& result) {
+    if (!result.failure) return {};
+    json told{{"reason", result.failure->reason}, {"vertex", nullptr}, {"x", nullptr}, {"y", nullptr}};
+    if (const auto& failed = result.failure->vertex) {
+        told["vertex"] = failed->vertex;
+        told["x"] = failed->at.x;
+        told["y"] = failed->at.y;
     }
     return told;
 }
 
-json scene_json(const run_record& run, std::size_t i) {
-    const scene_result& of = run.results[i];
-    const bool reprojected = of.came_to == outcome::reprojected;
+json scene_json(const record& told, std::size_t i) {
+    const scene_result& result = told.results[i];
+    const scene& subject = *result.subject;
+    const polyline& before = told.before[i];
+    const polyline& after = told.after[i];
+    const bool reprojected = result.came_to == outcome::reprojected;
     std::optional<line_shift> shift;
     if (reprojected)
-        shift = measured([&] { return shift_between(run.before[i], of.source, run.after[i], of.of->proj4); });
-    return {{"index", of.of->index},
-            {"caption", of.of->caption},
-            {"source_proj4", of.source},
-            {"target_proj4", run.to.proj4},
-            {"outcome", name_of(of.came_to)},
-            {"rolled_back", of.rolled_back},
-            {"vertices", run.before[i].size()},
-            {"length_before_m", or_null(length(run.before[i], of.source))},
-            {"length_after_m", or_null(length(run.after[i], of.of->proj4))},
+        shift = measured([&] { return shift_between(before, result.source, after, subject.proj4); });
+    return {{"index", subject.index},
+            {"caption", subject.caption},
+            {"source_proj4", result.source},
+            {"target_proj4", told.into.proj4},
+            {"outcome", name_of(result.came_to)},
+            {"rolled_back", result.rolled_back},
+            {"vertices", before.size()},
+            {"length_before_m", or_null(length(before, result.source))},
+            {"length_after_m", or_null(length(after, subject.proj4))},
             {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
             {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
-            {"operation", reprojected ? operation_of(of, run.before[i], run.to.proj4) : json()},
-            {"failure", failure_of(of)}};
+            {"operation", reprojected ? operation_of(result, before, told.into.proj4) : json()},
+            {"failure", failure_of(result)}};
 }
 
 std::string_view name_of(on_error policy) {
     return policy == on_error::stop ? "stop" : policy == on_error::skip ? "skip" : "rollback";
 }
 
+/// Where a line lies, if that can be told.
+std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
+    if (proj4.empty() || line.empty()) return std::nullopt;
+    return measured([&] { return to_wgs84(line, proj4); });
+}
+
+map::look look_of(outcome came_to) {
+    if (came_to == outcome::failed) return map::look::failed;
+    return came_to == outcome::reprojected || came_to == outcome::assigned ? map::look::changed
+                                                                           : map::look::kept;
+}
+
 }  // namespace
 
-std::string report_text(const run_record& of) {
+std::string json_text(const json& value) { return value.dump(2, ' ', false, json::error_handler_t::replace); }
+
+std::string report_text(const record& told) {
     const proj_versions versions = versions_of_proj();
     json counts = json::object();
     for (int i = 0; i <= static_cast<int>(outcome::not_attempted); ++i)
-        counts[std::string(name_of(static_cast<outcome>(i)))] = count(of.results, static_cast<outcome>(i));
+        counts[std::string(name_of(static_cast<outcome>(i)))] = count(told.results, static_cast<outcome>(i));
     json scenes = json::array();
-    for (std::size_t i = 0; i < of.results.size(); ++i) scenes.push_back(scene_json(of, i));
-    const json report{{"project", of.command.project.string()},
-                      {"target", {{"given", of.to.given}, {"proj4", of.to.proj4}}},
-                      {"dry_run", of.command.dry_run},
-                      {"on_error", name_of(of.command.policy)},
+    for (std::size_t i = 0; i < told.results.size(); ++i) scenes.push_back(scene_json(told, i));
+    const json report{{"project", told.wanted.project.string()},
+                      {"target", {{"given", told.into.given}, {"proj4", told.into.proj4}}},
+                      {"dry_run", told.wanted.dry_run},
+                      {"on_error", name_of(told.wanted.policy)},
                       {"proj", {{"library", versions.library}, {"database", or_null(versions.database)}}},
-                      {"warnings", of.warnings},
+                      {"warnings", told.warnings},
                       {"counts", counts},
                       {"scenes", std::move(scenes)}};
     return json_text(report) + '\n';
 }
 
-}  // namespace oxhost::app
+std::string map_text(const record& told) {
+    const language wanted = current_language();
+    const std::string goal = told.into.none()
+                                 ? std::string(in_language("проекция сброшена", "projection reset"))
+                                 : short_description(told.into.proj4, wanted);
+    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + goal,
+                     .note = {},
+                     .wanted = wanted,
+                     .lines = {}};
+    if (told.wanted.dry_run) sheet.note = in_language("; пробный запуск", "; dry run");
+    for (std::size_t i = 0; i < told.results.size(); ++i) {
+        const scene_result& result = told.results[i];
+        const bool moved = result.came_to == outcome::reprojected || result.came_to == outcome::reset;
+        sheet.lines.push_back({.caption = result.subject->caption,
+                               .shown_as = look_of(result.came_to),
+                               .before = moved ? placed(told.before[i], result.source) : std::nullopt,
+                               .now = placed(told.after[i], result.subject->proj4)});
+    }
+    return map::section_map(std::move(sheet));
+}
+
+}  // namespace oxhost::run

@@ -1,10 +1,15 @@
 #pragma once
+/// What became of a reprojection, told to programs and to people.
 
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
-#include "run/record.h"
+#include "run/reprojection.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
+
+/// Indented; bytes that are no UTF-8, as a foreign file may hold, come out as U+FFFD.
+std::string json_text(const nlohmann::ordered_json& value);
 
 /// The report as JSON. Lengths and distances are metres along the ellipsoid, accuracies metres, `null`
 /// where there is nothing to tell:
@@ -20,6 +25,9 @@ namespace oxhost::app {
 /// far a vertex moved on the ground, each text's datum counted: about 0 when all is well. The datum shift is
 /// the change of longitude and latitude as numbers: the error of whoever forgets the datum. `vertex` counts
 /// from 0, `x` and `y` are its coordinates in the source projection.
-std::string report_text(const run_record& of);
+std::string report_text(const record& told);
 
-}  // namespace oxhost::app
+/// The lines before and after as an SVG picture, in the user's language.
+std::string map_text(const record& told);
+
+}  // namespace oxhost::run

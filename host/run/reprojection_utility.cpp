@@ -2,38 +2,37 @@
 
 #include <algorithm>
 
-#include "app/command.h"
+#include "run/failure.h"
 #include "run/plug_in_texts.h"
 #include "session/journal.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 namespace {
 
 using headless::dialog_hands;
 using shell::button_role;
-using shell::node_kind;
 
-void set_target(dialog_hands& in, headless::scripted_user& user, const target& to,
+void set_target(dialog_hands& hands, headless::scripted_user& user, const target& into,
                 const temporary_folder& folder) {
-    if (to.none()) {
-        shell::node& button = in.menu_button();
-        const std::size_t entries = in.menu_entries(button).size();
-        return in.choose_entry(button, entries - 1);  // the last one is always "not defined"
+    if (into.none()) {
+        shell::node& button = hands.menu_button();
+        const std::size_t entries = hands.menu_entries(button).size();
+        return hands.choose_entry(button, entries - 1);  // the last one is always "not defined"
     }
-    user.answer_file(file_of(to, folder));
-    in.click(plug_in_text::load());
+    user.answer_file(file_of(into, folder));
+    hands.click(plug_in_text::load());
     if (const auto error = journal::instance().take_file_failure())
-        throw failure(exit_code::unreadable, *error);
+        throw failure(trouble::unreadable, *error);
 }
 
 /// The rows of the table are the listed scenes; both are in project order.
-void check_scenes(dialog_hands& in, const std::vector<scene*>& listed, const std::vector<scene*>& wanted) {
-    shell::table_model& table = *in.only(node_kind::outline).rows();
+void check_scenes(dialog_hands& hands, const std::vector<scene*>& listed, const std::vector<scene*>& wanted) {
+    shell::table_model& table = *hands.only(shell::node_kind::outline).rows();
     if (table.row_count() != listed.size())
         throw headless::impossible("the dialog lists " + std::to_string(table.row_count()) + " scenes, not " +
                                    std::to_string(listed.size()));
-    if (wanted.size() == listed.size()) return in.click_tool(plug_in_text::select_all_tool);
+    if (wanted.size() == listed.size()) return hands.click_tool(plug_in_text::select_all_tool);
     const std::size_t name = table.column_of(plug_in_text::name_column);
     std::vector<std::uint32_t> rows;
     for (const scene* each : wanted) {
@@ -47,21 +46,19 @@ void check_scenes(dialog_hands& in, const std::vector<scene*>& listed, const std
 
 }  // namespace
 
-reprojection_utility::reprojection_utility(const std::filesystem::path& bundle) : host_(bundle, user_) {}
-
-void reprojection_utility::run(const target& to, const std::vector<scene*>& listed,
+void reprojection_utility::run(const target& into, const std::vector<scene*>& listed,
                                std::vector<scene*> wanted,
                                const std::function<std::vector<scene*>()>& again) {
     const temporary_folder folder;
-    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& in) {
-        set_target(in, user_, to, folder);
+    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
+        set_target(hands, user_, into, folder);
         for (; !wanted.empty(); wanted = again()) {
-            check_scenes(in, listed, wanted);
-            if (in.press(button_role::accept)) return;
+            check_scenes(hands, listed, wanted);
+            if (hands.press(button_role::accept)) return;
         }
-        in.press(button_role::reject);
+        hands.press(button_role::reject);
     });
     host_.run(plug_in_text::utility);
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

@@ -2,58 +2,73 @@
 
 #include <set>
 
-#include "app/command.h"
 #include "base/numbers.h"
+#include "run/failure.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 namespace {
 
-bool is_listed(const scene& of) { return of.profile && of.line; }
+bool is_listed(const scene& asked) { return asked.profile && asked.line; }
 
-/// Null when the text is no index of a scene.
-scene* by_index(project& in, const std::string& text) {
-    const auto index = parse_whole_number(text);
-    return index && *index >= 0 ? in.at(static_cast<std::size_t>(*index)) : nullptr;
+bool can_be_read(const std::filesystem::path& file) {
+    try {
+        project::open(file, open_mode::read_only);
+        return true;
+    } catch (const project_error&) {
+        return false;
+    }
 }
 
-scene& find(project& in, const std::string& wanted) {
-    const std::string place = in.path().string() + ": ";
-    if (scene* found = by_index(in, wanted)) return *found;
+[[noreturn]] void refuse(const project& opened, const std::string& reason) {
+    throw failure(trouble::refused, opened.path().string() + ": " + reason);
+}
+
+/// Null when the text is no index of a scene.
+scene* by_index(project& opened, const std::string& text) {
+    const auto index = parse_whole_number(text);
+    return index && *index >= 0 ? opened.at(static_cast<std::size_t>(*index)) : nullptr;
+}
+
+scene& find(project& opened, const std::string& wanted) {
+    if (scene* found = by_index(opened, wanted)) return *found;
     scene* found = nullptr;
-    for (std::size_t i = 0; i < in.size(); ++i) {
-        scene& each = *in.at(i);
+    for (std::size_t i = 0; i < opened.size(); ++i) {
+        scene& each = *opened.at(i);
         if (each.caption != wanted) continue;
-        if (found)
-            throw failure(exit_code::nothing_done,
-                          place + "several scenes are called \"" + wanted + "\": name them by their index");
+        if (found) refuse(opened, "several scenes are called \"" + wanted + "\": name them by their index");
         found = &each;
     }
-    if (!found) throw failure(exit_code::nothing_done, place + "no scene \"" + wanted + '"');
+    if (!found) refuse(opened, "no scene \"" + wanted + '"');
     return *found;
 }
 
 }  // namespace
 
-std::vector<scene*> listed_scenes(project& in) {
+std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mode mode) try {
+    return project::open(file, mode);
+} catch (const project_error& error) {
+    const bool only_writing_fails = mode == open_mode::read_write && can_be_read(file);
+    throw failure(only_writing_fails ? trouble::refused : trouble::unreadable, error.what());
+}
+
+std::vector<scene*> listed_scenes(project& opened) {
     std::vector<scene*> listed;
-    for (std::size_t i = 0; i < in.size(); ++i)
-        if (is_listed(*in.at(i))) listed.push_back(in.at(i));
+    for (std::size_t i = 0; i < opened.size(); ++i)
+        if (is_listed(*opened.at(i))) listed.push_back(opened.at(i));
     return listed;
 }
 
-std::vector<scene*> select_scenes(project& in, const std::vector<std::string>& wanted) {
+std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted) {
     std::set<std::size_t> indexes;
     for (const std::string& each : wanted) {
-        const scene& found = find(in, each);
-        if (!is_listed(found))
-            throw failure(exit_code::nothing_done,
-                          in.path().string() + ": " + name_of(found) + " is no profile with a line");
+        const scene& found = find(opened, each);
+        if (!is_listed(found)) refuse(opened, name_of(found) + " is no profile with a line");
         indexes.insert(found.index);
     }
     std::vector<scene*> selected;
-    for (const std::size_t index : indexes) selected.push_back(in.at(index));
+    for (const std::size_t index : indexes) selected.push_back(opened.at(index));
     return selected;
 }
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run

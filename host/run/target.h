@@ -1,5 +1,6 @@
 #pragma once
-/// TARGET of a command line: `EPSG:n`, a proj4 text, a .pj4 or .prj file, or `none`.
+/// The projection that a run brings lines into, as a user names it: `EPSG:n`, a proj4 text, a .pj4 or .prj
+/// file, or `none`.
 
 #include <filesystem>
 #include <optional>
@@ -7,7 +8,7 @@
 
 #include "base/files.h"
 
-namespace oxhost::app {
+namespace oxhost::run {
 
 struct target {
     std::string given;                          ///< as the user spelled it
@@ -17,13 +18,10 @@ struct target {
     bool none() const { return proj4.empty(); }
 };
 
-/// Throws `failure`: a file that cannot be read is `unreadable`, anything PROJ refuses `nothing_done`.
+/// Throws `failure`: a file that cannot be read is `unreadable`, anything PROJ refuses `refused`.
 target read_target(const std::string& given);
 
-/// What every TARGET option says in the help.
-inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
-
 /// A target as a file that a Load button takes: its own, else one made in `folder`. Not for `none`.
-std::filesystem::path file_of(const target& of, const temporary_folder& folder);
+std::filesystem::path file_of(const target& wanted, const temporary_folder& folder);
 
-}  // namespace oxhost::app
+}  // namespace oxhost::run
