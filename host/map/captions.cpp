@@ -30,7 +30,8 @@ void captions::avoid(const polyline& path) {
     for (std::size_t i = 1; i < path.size(); ++i) {
         const point from = path[i - 1], to = path[i];
         const double pieces = std::ceil(std::hypot(to.x - from.x, to.y - from.y) / step);
-        for (double n = 0; n < pieces; ++n)
+        if (pieces == 0) continue;
+        for (double n = 0; n <= pieces; ++n)
             taken_.push_back({from.x + (to.x - from.x) * n / pieces - step / 2,
                               from.y + (to.y - from.y) * n / pieces - step / 2, step, step});
     }
