@@ -116,6 +116,9 @@ INSTANTIATE_TEST_SUITE_P(
             "BeforeAndAfterOfOneLine", {{179.999, 180.5}, {-180, -179.5}}, {{179.999, 180.5}, {180, 180.5}}},
         gathered_case{"TouchesTheDateLine", {{170, 180}, {30, 31}}, {{170, 180}, {30, 31}}},
         gathered_case{"CountedFromZero", {{350, 355}, {5, 10}}, {{-10, -5}, {5, 10}}},
+        gathered_case{"LineOverOthers",
+                      {{-170, -40, 100}, {-100, -90}, {110, 120}},
+                      {{-170, -40, 100}, {-100, -90}, {110, 120}}},
         gathered_case{"AllAround", {{-170, -60, 60, 170}, {175, -175}}, {{-170, -60, 60, 170}, {175, 185}}}),
     case_name);
 
