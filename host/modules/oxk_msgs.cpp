@@ -33,3 +33,7 @@ bool ox_progress_report(void* progress, double fraction) {
 }
 
 void ox_progress_destroy(void* progress) { delete static_cast<progress_display*>(progress); }
+
+void ox_border_fault(const char* place, std::uint32_t slot, const char* what) {
+    tell_fault({place ? place : "a border", slot, what ? what : ""});
+}

@@ -1,24 +1,27 @@
 #include "border/host_api/oxk_prg.h"
 
-#include <new>
-
 #include "base/line.h"
 #include "session/border.h"
 
+using oxhost::at_border;
+using oxhost::polyline;
+
 namespace {
 
-oxhost::polyline* as_line(void* pv) { return static_cast<oxhost::polyline*>(pv); }
+polyline* as_line(void* pv) { return static_cast<polyline*>(pv); }
 
 }  // namespace
 
-void* ox_pv_d2_create() { return new (std::nothrow) oxhost::polyline; }
+void* ox_pv_d2_create() {
+    return at_border([] { return new polyline; });
+}
 
 /// A null source empties the destination.
 void ox_pv_d2_assign(void* destination, const void* source) {
     if (!destination) return;
     as_line(destination)->clear();
-    oxhost::at_border([=] {
-        if (source) *as_line(destination) = *static_cast<const oxhost::polyline*>(source);
+    at_border([=] {
+        if (source) *as_line(destination) = *static_cast<const polyline*>(source);
     });
 }
 

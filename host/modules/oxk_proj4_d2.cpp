@@ -33,8 +33,8 @@ favourite_list* as_list(void* list) { return static_cast<favourite_list*>(list);
 
 /// A file function has nowhere to answer an error, so the journal tells how it ended.
 template <class Work>
-void with_file(Work&& work) {
-    at_border([&] {
+void with_file(Work&& work, const char* function = __builtin_FUNCTION()) {
+    const auto work_and_tell = [&] {
         std::optional<std::string> failure;
         try {
             work();
@@ -42,18 +42,20 @@ void with_file(Work&& work) {
             failure = error.what();
         }
         journal::instance().file_function_ended(std::move(failure));
-    });
+    };
+    at_border(work_and_tell, function);
 }
 
 void complain(const std::string& line) { std::cerr << "oxhost: " << line << '\n'; }
 
 /// Shows the favourite at `index` to `use`, if there is one.
 template <class Use>
-void with_favourite(void* list, std::int32_t index, Use&& use) {
-    at_border([&] {
+void with_favourite(void* list, std::int32_t index, Use&& use, const char* function = __builtin_FUNCTION()) {
+    const auto use_if_any = [&] {
         const favourite* item = list ? as_list(list)->at(index) : nullptr;
         if (item) use(*item);
-    });
+    };
+    at_border(use_if_any, function);
 }
 
 }  // namespace

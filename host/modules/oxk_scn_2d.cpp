@@ -4,12 +4,14 @@
 #include "session/border.h"
 #include "session/string_adapter.h"
 
+using namespace oxhost;
+
 namespace {
 
-oxhost::project* as_project(void* collection) { return static_cast<oxhost::project*>(collection); }
+project* as_project(void* collection) { return static_cast<project*>(collection); }
 
 /// The handle of a scene is also that of its profile data.
-oxhost::scene* as_scene(void* handle) { return static_cast<oxhost::scene*>(handle); }
+scene* as_scene(void* handle) { return static_cast<scene*>(handle); }
 
 }  // namespace
 
@@ -22,7 +24,7 @@ void* ox_scns_2d_get(void* collection, std::uint32_t index) {
 }
 
 void ox_scn_2d_get_wcaption(void* scene, void* adapter) {
-    if (scene) oxhost::at_border([=] { oxhost::deliver(adapter, as_scene(scene)->caption); });
+    if (scene) at_border([=] { deliver(adapter, as_scene(scene)->caption); });
 }
 
 void* ox_scn_2d_get_prf_data_ptr(void* scene) {
@@ -32,18 +34,17 @@ void* ox_scn_2d_get_prf_data_ptr(void* scene) {
 bool ox_prf_data_get_is_profil(void* data) { return data && as_scene(data)->profile; }
 
 void ox_prf_data_get_prj4string(void* data, void* adapter) {
-    if (!data) return;
-    oxhost::at_border([=] { oxhost::deliver(adapter, as_scene(data)->owner->proj4(*as_scene(data))); });
+    if (data) at_border([=] { deliver(adapter, as_scene(data)->owner->proj4(*as_scene(data))); });
 }
 
 void ox_prf_data_set_prj4string(void* data, const wchar_t* proj4) {
-    oxhost::store_text(as_scene(data), proj4);
+    at_border([=] { store_text(as_scene(data), proj4); });
 }
 
 void* ox_prf_data_get_pv_ptr(void* data) {
-    return const_cast<oxhost::polyline*>(oxhost::lend_line(as_scene(data)));
+    return at_border([=] { return const_cast<polyline*>(lend_line(as_scene(data))); });
 }
 
 void ox_prf_data_set_pv(void* data, void* pv) {
-    oxhost::store_line(as_scene(data), static_cast<const oxhost::polyline*>(pv));
+    at_border([=] { store_line(as_scene(data), static_cast<const polyline*>(pv)); });
 }

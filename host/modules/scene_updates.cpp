@@ -10,7 +10,7 @@ namespace {
 /// Runs a step of one scene's update. A failure goes to the scene's record in the journal, the first one
 /// stays; the bracket takes no further changes.
 template <class Step>
-void guarded(scene& of, Step&& step) noexcept {
+void guarded(scene& of, Step&& step) {
     std::string failure;
     try {
         step();
@@ -32,7 +32,7 @@ void note_written(const project& by) {
 
 /// A change outside a bracket is a bracket of its own.
 template <class Change>
-void change(scene* of, Change&& make) noexcept {
+void change(scene* of, Change&& make) {
     if (!of) return;
     begin_scene_update(of);
     guarded(*of, make);
@@ -41,7 +41,7 @@ void change(scene* of, Change&& make) noexcept {
 
 }  // namespace
 
-void begin_scene_update(scene* of) noexcept {
+void begin_scene_update(scene* of) {
     if (!of) return;
     scene* updated = of->owner->updated_scene();
     for (; updated && updated != of; updated = of->owner->updated_scene()) end_scene_update(updated);
@@ -49,7 +49,7 @@ void begin_scene_update(scene* of) noexcept {
     guarded(*of, [of] { of->owner->begin_update(*of); });
 }
 
-void end_scene_update(scene* of) noexcept {
+void end_scene_update(scene* of) {
     if (!of || of->owner->updated_scene() != of) return;
     guarded(*of, [of] {
         of->owner->end_update(*of);
@@ -58,15 +58,15 @@ void end_scene_update(scene* of) noexcept {
     if (!of->owner->updated_scene()) journal::instance().end();
 }
 
-void store_line(scene* of, const polyline* line) noexcept {
+void store_line(scene* of, const polyline* line) {
     if (line) change(of, [of, line] { of->owner->set_line(*of, *line); });
 }
 
-void store_text(scene* of, const wchar_t* text) noexcept {
+void store_text(scene* of, const wchar_t* text) {
     change(of, [of, text] { of->owner->set_proj4(*of, to_utf8(text)); });
 }
 
-const polyline* lend_line(scene* of) noexcept {
+const polyline* lend_line(scene* of) {
     const polyline* line = nullptr;
     if (of) guarded(*of, [of, &line] { line = of->owner->lend_line(*of); });
     return line;
