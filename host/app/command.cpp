@@ -1,11 +1,14 @@
 #include "app/command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
 
 #include "base/files.h"
 #include "project/project.h"
 #include "run/failure.h"
 #include "run/plug_in_texts.h"
+#include "session/faults.h"
 #include "session/language.h"
 #include "shell/bundle.h"
 
@@ -16,6 +19,14 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view default_bundle = run::plug_in_text::bundle_file;
+
+void print_fault(const ox::border_fault& fault) {
+    std::string line = std::string("oxhost: an exception ended at ") + fault.place;
+    if (fault.slot) line += ", slot " + std::to_string(fault.slot);
+    line.append(": ").append(fault.what);
+    std::ranges::replace(line, '\n', ' ');
+    std::cerr << line << std::endl;
+}
 
 }  // namespace
 
@@ -33,7 +44,14 @@ exit_code code_of_current_exception() try { throw; } catch (const failure& error
     return exit_code::internal;
 }
 
+void add_verbose(CLI::App& app) {
+    app.add_flag_callback(
+        "--verbose", [] { listen_to_faults(print_fault); },
+        "Tell of exceptions that end at the border of plug-in and host");
+}
+
 void add_language(CLI::App& subcommand) {
+    add_verbose(subcommand);
     subcommand
         .add_option_function<std::string>(
             "--lang", [](const std::string& code) { choose_language(parse_language(code)); },

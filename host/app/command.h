@@ -44,12 +44,15 @@ void add_export(CLI::App& app, action& chosen);
 void add_describe(CLI::App& app, action& chosen);
 void add_project(CLI::App& app, action& chosen);
 void add_catalogue(CLI::App& app, action& chosen);
+void add_utilities(CLI::App& app, action& chosen);
 
 /// What every TARGET option says in the help.
 inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
 
 // Options of several commands. `into` outlives the parsing.
-/// `--lang ru|en`; takes effect while the command line is read.
+/// `--verbose`, of the program and of each subcommand: exceptions that end at a border are told.
+void add_verbose(CLI::App& app);
+/// `--lang ru|en`; takes effect while the command line is read, as `--verbose` does, which comes along.
 void add_language(CLI::App& subcommand);
 /// `--yes` and `--no`, of which one may be given.
 void add_answers(CLI::App& subcommand, console_options& into);

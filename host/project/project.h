@@ -145,4 +145,13 @@ private:
 project* current_project();
 void set_current_project(project* opened);
 
+/// Has a project served for as long as it lives.
+class served_project {
+public:
+    explicit served_project(project* opened) { set_current_project(opened); }
+    ~served_project() { set_current_project(nullptr); }
+    served_project(const served_project&) = delete;
+    served_project& operator=(const served_project&) = delete;
+};
+
 }  // namespace oxhost

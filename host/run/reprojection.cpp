@@ -29,14 +29,6 @@ std::vector<scene*> not_attempted(const std::vector<scene_result>& results) {
     return left;
 }
 
-class current_project_guard {
-public:
-    explicit current_project_guard(project& opened) { set_current_project(&opened); }
-    ~current_project_guard() { set_current_project(nullptr); }
-    current_project_guard(const current_project_guard&) = delete;
-    current_project_guard& operator=(const current_project_guard&) = delete;
-};
-
 }  // namespace
 
 reprojection::reprojection(order wanted)
@@ -61,7 +53,7 @@ void reprojection::perform() {
         const bool went_on = seen > before;  // else a further try would end the same way
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};
     };
-    const current_project_guard serving(*project_);
+    const served_project serving(project_.get());
     utility_.run(into_, listed_scenes(*project_), scenes_, after_apply);
 }
 
