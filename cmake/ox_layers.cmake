@@ -93,6 +93,38 @@ function(ox_module_layer name)
   target_link_libraries(ox_${name} PUBLIC ${arg_LINK} $<$<BOOL:${WIN32}>:ox_host_imports>)
 endfunction()
 
+# One layer of the host, with the link target oxhost_NAME. Layers of the CORE hold the state that the host's
+# modules share: their objects, which need the foreign LIBRARIES, are parts of the one shared library
+# oxhost_core, and it comes along with the link target. Other layers are static libraries.
+function(ox_host_layer name)
+  cmake_parse_arguments(arg "CORE" "" "SOURCES;LINK;LIBRARIES" ${ARGN})
+  set(layer oxhost_${name})
+  if(NOT arg_CORE)
+    add_library(${layer} STATIC ${arg_SOURCES})
+    ox_include_root(${layer} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${layer} PUBLIC ${arg_LINK} PRIVATE ${arg_LIBRARIES})
+    return()
+  endif()
+  add_library(${layer} INTERFACE)
+  ox_include_root(${layer} INTERFACE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${layer} INTERFACE oxhost_core ${arg_LINK})
+  add_library(${layer}_objects OBJECT ${arg_SOURCES})
+  set_target_properties(${layer}_objects PROPERTIES CXX_VISIBILITY_PRESET default VISIBILITY_INLINES_HIDDEN OFF)
+  target_include_directories(${layer}_objects PRIVATE $<TARGET_PROPERTY:${layer},INTERFACE_INCLUDE_DIRECTORIES>)
+  target_link_libraries(${layer}_objects PRIVATE ${arg_LIBRARIES})
+  target_link_libraries(oxhost_core PRIVATE ${layer}_objects)
+endfunction()
+
+# A host module: shared library lib<name>.so that exports the C functions of its header and nothing else.
+function(ox_host_module name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  add_library(${name} SHARED ${arg_SOURCES})
+  ox_include_root(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_compile_definitions(${name} PRIVATE OX_HOST_IMPLEMENTS)
+  target_link_libraries(${name} PRIVATE ${arg_LINK} ox_border)
+  ox_export_only(${name} ${CMAKE_SOURCE_DIR}/cmake/host_module.map)
+endfunction()
+
 # Shared library whose dynamic symbol table holds the functions that `script` names and nothing
 # else; template instances of the standard library would leak out otherwise. On Windows only what is
 # declared dllexport leaves a library.

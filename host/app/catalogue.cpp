@@ -4,11 +4,11 @@
 #include <optional>
 
 #include "app/command.h"
-#include "app/plug_in_texts.h"
-#include "app/projection_dialog_drive.h"
+#include "base/numbers.h"
+#include "base/utf8.h"
 #include "catalogue/index.h"
-#include "geodesy/proj4_text.h"
-#include "session/string_adapter.h"
+#include "run/plug_in_texts.h"
+#include "run/projection_dialog.h"
 
 namespace oxhost::app {
 
@@ -30,30 +30,16 @@ std::wstring folded(const std::string& text) {
     return wide;
 }
 
-/// The shown controls in the group of that caption.
-void collect(node& from, node_kind kind, std::string_view group, bool inside, std::vector<node*>& found) {
-    inside = inside || (from.kind() == node_kind::groupbox && from.state().caption == group);
-    if (inside && from.kind() == kind) found.push_back(&from);
-    for (const auto& child : from.children())
-        if (child->shown()) collect(*child, kind, group, inside, found);
-}
-
-std::vector<node*> in_group(dialog_hands& in, node_kind kind, std::string_view group) {
-    std::vector<node*> found;
-    collect(in.dialog().root(), kind, group, false, found);
-    return found;
-}
-
 /// The first drop-down list of a group.
-node& list_of(dialog_hands& in, std::string_view group) {
-    const auto found = in_group(in, node_kind::dropdown, group);
+node& list_of(dialog_hands& hands, std::string_view group) {
+    const auto found = hands.all_in_group(node_kind::dropdown, group);
     if (found.empty()) throw failure(exit_code::internal, "no list of " + std::string(group));
     return *found.front();
 }
 
-std::string numbers_of(dialog_hands& in, std::string_view group) {
+std::string numbers_of(dialog_hands& hands, std::string_view group) {
     std::string line;
-    for (node* each : in_group(in, node_kind::floating_input, group))
+    for (node* each : hands.all_in_group(node_kind::floating_input, group))
         line += (line.empty() ? "" : ", ") + number_text(each->state().value);
     return line;
 }
@@ -100,12 +86,12 @@ public:
 
     /// `lines` gives the lines of the item that is chosen; in the list of zones, a line is a zone.
     template <class Lines>
-    void part(const std::string& name, dialog_hands& in, std::string_view group, Lines&& lines) {
+    void part(const std::string& name, dialog_hands& hands, std::string_view group, Lines&& lines) {
         if (!only_part_.empty() && only_part_ != name) return;
         bool headed = !only_part_.empty();
-        const auto items = list_of(in, group).state().items;
+        const auto items = list_of(hands, group).state().items;
         for (std::uint32_t i = 0; i < items.size(); ++i) {
-            list_of(in, group).choose(i);
+            list_of(hands, group).choose(i);
             for (const std::string& line : lines()) {
                 const std::string zone = name == "zones" ? line : "";
                 const auto found = search_.found(name, items[i], zone, items[i] + "  " + line);
@@ -128,34 +114,33 @@ private:
 
 using lines = std::vector<std::string>;
 
-std::string asked_parameters(dialog_hands& in) {
+std::string asked_parameters(dialog_hands& hands) {
     std::string line;
-    for (node* each : in_group(in, node_kind::floating_input, plug_in_text::projection()))
+    for (node* each : hands.all_in_group(node_kind::floating_input, run::plug_in_text::projection()))
         line += (line.empty() ? "(" : ", ") + each->name();
     return line.empty() ? line : line + ')';
 }
 
-exit_code list_catalogue(const catalogue_options& options) try {
-    namespace text = plug_in_text;
+exit_code list_catalogue(const catalogue_options& options) {
+    namespace text = run::plug_in_text;
     listing list(options);
-    projection_dialog dialog(options.bundle);
-    dialog.open("", [&](dialog_hands& in) {
-        in.choose(text::type(), text::usual());
-        list.part("ellipsoids", in, text::spheroid(),
-                  [&] { return lines{numbers_of(in, text::spheroid())}; });
-        list.part("datums", in, text::datum(), [&] {
-            return lines{list_of(in, text::spheroid()).state().text + "  " +
-                         numbers_of(in, text::datum_parameters())};
+    run::projection_dialog dialog(options.bundle);
+    dialog.open("", [&](dialog_hands& hands) {
+        hands.choose(text::type(), text::usual());
+        list.part("ellipsoids", hands, text::spheroid(),
+                  [&] { return lines{numbers_of(hands, text::spheroid())}; });
+        list.part("datums", hands, text::datum(), [&] {
+            return lines{list_of(hands, text::spheroid()).state().text + "  " +
+                         numbers_of(hands, text::datum_parameters())};
         });
-        list.part("projections", in, text::projection(), [&] { return lines{asked_parameters(in)}; });
-        in.choose(text::type(), text::zonal());
-        list.part("zones", in, text::projection(), [&] { return in.control(text::zone()).state().items; });
+        list.part("projections", hands, text::projection(), [&] { return lines{asked_parameters(hands)}; });
+        hands.choose(text::type(), text::zonal());
+        list.part("zones", hands, text::projection(),
+                  [&] { return hands.control(text::zone()).state().items; });
     });
     if (list.count() == 0 && !options.find.empty())
         throw failure(exit_code::nothing_done, "nothing in the catalogue is called \"" + options.find + '"');
     return exit_code::done;
-} catch (const shell::bundle_error& e) {
-    throw failure(exit_code::unreadable, e.what());
 }
 
 }  // namespace

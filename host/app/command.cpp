@@ -1,6 +1,16 @@
 #include "app/command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+
+#include "base/files.h"
+#include "project/project.h"
+#include "run/failure.h"
+#include "run/plug_in_texts.h"
+#include "session/faults.h"
+#include "session/language.h"
+#include "shell/bundle.h"
 
 namespace oxhost::app {
 
@@ -8,25 +18,54 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr auto default_bundle = "oxk_scn2d_prf_reproj.so";
+constexpr std::string_view default_bundle = run::plug_in_text::bundle_file;
 
-bool can_be_read(const fs::path& file) {
-    try {
-        project::open(file, open_mode::read_only);
-        return true;
-    } catch (const project_error&) {
-        return false;
-    }
+void print_fault(const ox::border_fault& fault) {
+    std::string line = std::string("oxhost: an exception ended at ") + fault.place;
+    if (fault.slot) line += ", slot " + std::to_string(fault.slot);
+    line.append(": ").append(fault.what);
+    std::ranges::replace(line, '\n', ' ');
+    std::cerr << line << std::endl;
 }
 
 }  // namespace
 
+exit_code code_of_current_exception() try { throw; } catch (const failure& error) {
+    return error.code;
+} catch (const run::failure& error) {
+    return error.kind == run::trouble::unreadable ? exit_code::unreadable : exit_code::nothing_done;
+} catch (const shell::bundle_error&) {
+    return exit_code::unreadable;
+} catch (const project_error&) {
+    return exit_code::nothing_done;
+} catch (const file_error&) {
+    return exit_code::nothing_done;
+} catch (const std::exception&) {
+    return exit_code::internal;
+}
+
+void add_verbose(CLI::App& app) {
+    app.add_flag_callback(
+        "--verbose", [] { listen_to_faults(print_fault); },
+        "Tell of exceptions that end at the border of plug-in and host");
+}
+
 void add_language(CLI::App& subcommand) {
+    add_verbose(subcommand);
     subcommand
         .add_option_function<std::string>(
             "--lang", [](const std::string& code) { choose_language(parse_language(code)); },
             "Language of texts and messages: ru or en (default: the locale's)")
         ->check(CLI::IsMember({"ru", "en"}));
+}
+
+void add_answers(CLI::App& subcommand, console_options& into) {
+    auto* yes = subcommand.add_flag_callback(
+        "--yes", [&into] { into.questions = answering::yes; }, "Answer questions with yes");
+    subcommand
+        .add_flag_callback(
+            "--no", [&into] { into.questions = answering::no; }, "Answer questions with no")
+        ->excludes(yes);
 }
 
 void add_bundle(CLI::App& subcommand, fs::path& into) {
@@ -35,17 +74,6 @@ void add_bundle(CLI::App& subcommand, fs::path& into) {
         .add_option("--bundle", into,
                     "The plug-in (default: " + std::string(default_bundle) + " beside this program)")
         ->type_name("FILE");
-}
-
-std::unique_ptr<project> open_project(const fs::path& file, open_mode mode) try {
-    return project::open(file, mode);
-} catch (const project_error& e) {
-    const bool only_writing_fails = mode == open_mode::read_write && can_be_read(file);
-    throw failure(only_writing_fails ? exit_code::nothing_done : exit_code::unreadable, e.what());
-}
-
-std::string name_of(const scene& of) {
-    return "scene " + std::to_string(of.index) + " \"" + of.caption + '"';
 }
 
 }  // namespace oxhost::app

@@ -3,12 +3,10 @@
 
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <stdexcept>
 #include <string>
 
-#include "project/project.h"
-#include "session/language.h"
+#include "session/console_messages.h"
 
 namespace CLI {
 class App;
@@ -32,6 +30,9 @@ struct failure : std::runtime_error {
     exit_code code;
 };
 
+/// The code for an exception that a command does not judge itself; called while that is handled.
+exit_code code_of_current_exception();
+
 /// What a parsed command line comes to.
 using action = std::function<exit_code()>;
 
@@ -43,17 +44,19 @@ void add_export(CLI::App& app, action& chosen);
 void add_describe(CLI::App& app, action& chosen);
 void add_project(CLI::App& app, action& chosen);
 void add_catalogue(CLI::App& app, action& chosen);
+void add_utilities(CLI::App& app, action& chosen);
 
-/// `--lang ru|en`; takes effect while the command line is read.
+/// What every TARGET option says in the help.
+inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
+
+// Options of several commands. `into` outlives the parsing.
+/// `--verbose`, of the program and of each subcommand: exceptions that end at a border are told.
+void add_verbose(CLI::App& app);
+/// `--lang ru|en`; takes effect while the command line is read, as `--verbose` does, which comes along.
 void add_language(CLI::App& subcommand);
-/// `--bundle FILE`, the plug-in, by default beside the program. `into` outlives the parsing.
+/// `--yes` and `--no`, of which one may be given.
+void add_answers(CLI::App& subcommand, console_options& into);
+/// `--bundle FILE`, the plug-in, by default beside the program.
 void add_bundle(CLI::App& subcommand, std::filesystem::path& into);
-
-/// Opens a project. A file that cannot be read ends with `unreadable`, one that can only be read but is to
-/// be changed with `nothing_done`.
-std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mode mode);
-
-/// `scene 3 "caption"`.
-std::string name_of(const scene& of);
 
 }  // namespace oxhost::app

@@ -2,10 +2,12 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/output_file.h"
-#include "app/target.h"
+#include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/transformation.h"
+#include "run/selection.h"
+#include "run/target.h"
+#include "session/language.h"
 
 namespace oxhost::app {
 
@@ -19,40 +21,41 @@ struct export_options {
 };
 
 /// Brings a scene into the target, or ends the command with the scene's name.
-void transform(new_scene& copy, const scene& of, const target& to) {
+void transform(new_scene& copy, const scene& original, const run::target& into) {
     const auto fail = [&](const std::string& reason) {
         throw failure(exit_code::scene_failed,
-                      of.owner->path().string() + ": " + name_of(of) + ": " + reason);
+                      original.owner->path().string() + ": " + name_of(original) + ": " + reason);
     };
     if (!copy.line || copy.line->empty()) return;
     if (copy.proj4.empty()) fail("has no projection to transform from");
     try {
-        const auto way = transformation::between(copy.proj4, to.proj4);
+        const auto way = transformation::between(copy.proj4, into.proj4);
         if (way->is_needed())
-            if (const auto at = way->apply(*copy.line))
-                fail("vertex " + std::to_string(at->vertex) + ": " + at->reason);
+            if (const auto failed = way->apply(*copy.line))
+                fail("vertex " + std::to_string(failed->vertex) + ": " + failed->reason);
     } catch (const std::invalid_argument& refused) {
         fail(refused.what());
     }
-    copy.proj4 = to.proj4;
+    copy.proj4 = into.proj4;
 }
 
 exit_code export_project(const export_options& options) try {
-    const std::optional<target> to = options.to ? std::optional(read_target(*options.to)) : std::nullopt;
-    if (to && to->none())
+    std::optional<run::target> into;
+    if (options.to) into = run::read_target(*options.to);
+    if (into && into->none())
         throw failure(exit_code::nothing_done, "export needs a projection to transform to, not \"none\"");
-    const auto opened = open_project(options.project, open_mode::read_only);
+    const auto opened = run::open_project(options.project, open_mode::read_only);
     check_writable(options.out);
     std::size_t next = 0;
-    load_exchange().export_lines(options.out, options.project, to ? to->proj4 : "",
-                                 [&]() -> std::optional<new_scene> {
-                                     const scene* of = opened->at(next++);
-                                     if (!of) return std::nullopt;
-                                     new_scene copy{of->caption, of->profile, of->proj4, std::nullopt};
-                                     if (of->line) copy.line = opened->read_line(*of);
-                                     if (to) transform(copy, *of, *to);
-                                     return copy;
-                                 });
+    const auto next_scene = [&]() -> std::optional<new_scene> {
+        const scene* original = opened->at(next++);
+        if (!original) return std::nullopt;
+        new_scene copy{original->caption, original->profile, original->proj4, std::nullopt};
+        if (original->line) copy.line = opened->read_line(*original);
+        if (into) transform(copy, *original, *into);
+        return copy;
+    };
+    load_exchange().export_lines(options.out, options.project, into ? into->proj4 : "", next_scene);
     if (!options.quiet)
         std::cout << options.out.string() << ": " << opened->size() << in_language(" сцен", " scenes")
                   << '\n';

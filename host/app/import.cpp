@@ -2,10 +2,12 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/output_file.h"
-#include "app/target.h"
+#include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/crs_import.h"
+#include "run/selection.h"
+#include "run/target.h"
+#include "session/language.h"
 
 namespace oxhost::app {
 
@@ -23,7 +25,7 @@ struct import_command {
 
 std::vector<new_scene> read_sources(const import_command& command) {
     import_options how;
-    if (command.proj4) how.proj4 = read_target(*command.proj4).proj4;
+    if (command.proj4) how.proj4 = run::read_target(*command.proj4).proj4;
     how.not_profile = command.not_profile;
     how.crs_text = [](std::string_view code) { return import_crs(code).value_or(""); };
     std::vector<new_scene> scenes;
@@ -43,7 +45,7 @@ exit_code import(const import_command& command) try {
     std::error_code ignored;
     const bool fresh = !fs::exists(command.project, ignored);
     if (fresh) check_writable(command.project);
-    auto opened = fresh ? nullptr : open_project(command.project, open_mode::read_write);
+    auto opened = fresh ? nullptr : run::open_project(command.project, open_mode::read_write);
     const auto scenes = read_sources(command);
     if (scenes.empty())
         throw failure(exit_code::nothing_done, command.sources.front().string() + ": no lines");

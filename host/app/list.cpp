@@ -4,7 +4,10 @@
 #include <nlohmann/json.hpp>
 
 #include "app/command.h"
-#include "app/json.h"
+#include "base/utf8.h"
+#include "run/report.h"
+#include "run/selection.h"
+#include "session/language.h"
 
 namespace oxhost::app {
 
@@ -15,40 +18,35 @@ struct list_options {
     bool json = false;
 };
 
-std::size_t vertices(const scene& of) { return of.line ? of.line->vertices : 0; }
+std::size_t vertices(const scene& listed) { return listed.line ? listed.line->vertices : 0; }
 
-void print_json(const project& of) {
+void print_json(const project& opened) {
     auto rows = nlohmann::ordered_json::array();
-    for (const scene& each : of.scenes())
+    for (const scene& each : opened.scenes())
         rows.push_back({{"index", each.index},
                         {"caption", each.caption},
                         {"profile", each.profile},
                         {"proj4", each.proj4},
                         {"vertices", vertices(each)}});
-    std::cout << json_text(rows) << '\n';
+    std::cout << run::json_text(rows) << '\n';
 }
 
-/// Characters of a UTF-8 text, as far as a table's columns need it.
-std::size_t width(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
-void print_table(const project& of) {
+void print_table(const project& opened) {
     const std::string heads[] = {std::string(in_language("Сцена", "Scene")),
                                  std::string(in_language("Вершин", "Vertices")),
                                  std::string(in_language("Проекция", "Projection"))};
-    std::size_t caption_width = width(heads[0]);
-    for (const scene& each : of.scenes()) caption_width = std::max(caption_width, width(each.caption));
+    std::size_t caption_width = character_count(heads[0]);
+    for (const scene& each : opened.scenes())
+        caption_width = std::max(caption_width, character_count(each.caption));
     const auto row = [&](const std::string& index, const std::string& caption, const std::string& count,
                          const std::string& projection) {
         std::cout << std::setw(5) << index << "  " << caption
-                  << std::string(caption_width - width(caption), ' ') << "  "
-                  << std::string(9 - std::min<std::size_t>(9, width(count)), ' ') << count << "  "
+                  << std::string(caption_width - character_count(caption), ' ') << "  "
+                  << std::string(9 - std::min<std::size_t>(9, character_count(count)), ' ') << count << "  "
                   << projection << '\n';
     };
     row("#", heads[0], heads[1], heads[2]);
-    for (const scene& each : of.scenes()) {
+    for (const scene& each : opened.scenes()) {
         std::string projection = each.proj4.empty() ? std::string(in_language("нет", "none")) : each.proj4;
         if (!each.profile) projection.insert(0, in_language("(не разрез) ", "(no profile) "));
         row(std::to_string(each.index), each.caption, std::to_string(vertices(each)), projection);
@@ -56,7 +54,7 @@ void print_table(const project& of) {
 }
 
 exit_code list(const list_options& options) {
-    const auto opened = open_project(options.project, open_mode::read_only);
+    const auto opened = run::open_project(options.project, open_mode::read_only);
     options.json ? print_json(*opened) : print_table(*opened);
     return exit_code::done;
 }

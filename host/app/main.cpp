@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/version.h"
+#include "session/faults.h"
 
 namespace {
 
@@ -13,11 +13,12 @@ int answer(exit_code code) { return static_cast<int>(code); }
 
 int run(int argc, char** argv) {
     CLI::App app{"Reprojects the section lines of 2D profile scenes", "oxhost"};
-    app.set_version_flag("--version", std::string("oxhost ") + oxhost_version);
+    app.set_version_flag("--version", "oxhost " OXHOST_VERSION);
     app.require_subcommand(0, 1);
+    add_verbose(app);
     action chosen;
-    for (const auto add :
-         {add_import, add_list, add_reproject, add_export, add_describe, add_project, add_catalogue})
+    for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
+                           add_catalogue, add_utilities})
         add(app, chosen);
     try {
         app.parse(argc, argv);
@@ -34,16 +35,14 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    ox::on_border_fault = oxhost::tell_fault;  // that of the shell, which is part of this program
     // Characters and messages follow the locale; numbers never do.
     std::setlocale(LC_CTYPE, "");
     std::setlocale(LC_MESSAGES, "");
     try {
         return run(argc, argv);
-    } catch (const failure& e) {
-        std::cerr << "oxhost: " << e.what() << '\n';
-        return answer(e.code);
     } catch (const std::exception& e) {
         std::cerr << "oxhost: " << e.what() << '\n';
-        return answer(exit_code::internal);
+        return answer(code_of_current_exception());
     }
 }

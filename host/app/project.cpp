@@ -2,11 +2,10 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "app/dialog_text.h"
-#include "app/output_file.h"
-#include "app/plug_in_texts.h"
-#include "app/projection_dialog_drive.h"
-#include "app/target.h"
+#include "base/files.h"
+#include "run/plug_in_texts.h"
+#include "run/projection_dialog.h"
+#include "run/target.h"
 
 namespace oxhost::app {
 
@@ -15,7 +14,7 @@ namespace {
 using headless::dialog_hands;
 
 /// One act in the dialog, as the command line orders it.
-using dialog_act = std::function<void(projection_dialog&, dialog_hands&)>;
+using dialog_act = std::function<void(run::projection_dialog&, dialog_hands&)>;
 
 struct project_options {
     std::string text;
@@ -28,35 +27,25 @@ dialog_act choosing(const std::string& given) {
     const auto equals = given.find('=');
     if (equals == given.npos || equals == 0)
         throw CLI::ValidationError("--choose", given + " is not CAPTION=VALUE");
-    return [control = given.substr(0, equals), value = given.substr(equals + 1)](auto&, dialog_hands& in) {
-        in.set(control, value);
+    return [control = given.substr(0, equals), value = given.substr(equals + 1)](auto&, dialog_hands& hands) {
+        hands.set(control, value);
     };
-}
-
-void choose_favourite(dialog_hands& in, std::uint32_t number) {
-    shell::table_model& favourites = *in.only(shell::node_kind::outline).rows();
-    if (number == 0 || number > favourites.row_count())
-        throw failure(exit_code::nothing_done, "no favourite " + std::to_string(number) + " among the " +
-                                                   std::to_string(favourites.row_count()));
-    favourites.make_current(number - 1);
 }
 
 exit_code edit(const project_options& options) try {
     // An empty text is what the dialog starts from when nothing is chosen.
-    const target from = options.text.empty() ? target{} : read_target(options.text);
-    projection_dialog dialog(options.bundle);
+    const run::target start = options.text.empty() ? run::target{} : run::read_target(options.text);
+    run::projection_dialog dialog(options.bundle);
     std::string composed;
-    dialog.open(from.proj4, [&](dialog_hands& in) {
-        for (const dialog_act& act : options.acts) act(dialog, in);
-        if (!options.quiet) std::cout << dialog_text(in.dialog()) << '\n';
-        composed = dialog.text(in);
+    dialog.open(start.proj4, [&](dialog_hands& hands) {
+        for (const dialog_act& act : options.acts) act(dialog, hands);
+        if (!options.quiet) std::cout << headless::dialog_text(hands.dialog()) << '\n';
+        composed = dialog.text(hands);
     });
     std::cout << composed << '\n';
     return exit_code::done;
 } catch (const headless::impossible& e) {
     throw failure(exit_code::nothing_done, e.what());
-} catch (const shell::bundle_error& e) {
-    throw failure(exit_code::unreadable, e.what());
 }
 
 }  // namespace
@@ -82,7 +71,9 @@ void add_project(CLI::App& app, action& chosen) {
         ->add_option_function<std::string>(
             "--epsg",
             [act](const std::string& code) {
-                act([code](projection_dialog& dialog, dialog_hands& in) { dialog.choose_crs(in, code); });
+                act([code](run::projection_dialog& dialog, dialog_hands& hands) {
+                    dialog.choose_crs(hands, code);
+                });
             },
             "Import a coordinate system by its code")
         ->type_name("CODE")
@@ -91,24 +82,24 @@ void add_project(CLI::App& app, action& chosen) {
         ->add_option_function<std::uint32_t>(
             "--favourite",
             [act](std::uint32_t number) {
-                act([number](projection_dialog&, dialog_hands& in) { choose_favourite(in, number); });
+                act([number](run::projection_dialog& dialog, dialog_hands& hands) {
+                    dialog.take_favourite(hands, number);
+                });
             },
             "Take a favourite, counted from 1")
         ->type_name("N")
         ->trigger_on_parse();
     command->add_flag_callback(
         "--add-favourite",
-        [act] {
-            act([](projection_dialog&, dialog_hands& in) { in.click_tool(plug_in_text::append_tool); });
-        },
+        [act] { act([](auto&, dialog_hands& hands) { hands.click_tool(run::plug_in_text::append_tool); }); },
         "Keep the projection as a favourite");
     command
         ->add_option_function<std::string>(
             "--save",
             [act](const std::string& file) {
-                act([file](projection_dialog& dialog, dialog_hands& in) {
+                act([file](run::projection_dialog& dialog, dialog_hands& hands) {
                     check_writable(file);
-                    dialog.save(in, file);
+                    dialog.save(hands, file);
                 });
             },
             "Save to a .pj4 or .prj file")
@@ -118,8 +109,10 @@ void add_project(CLI::App& app, action& chosen) {
         ->add_option_function<std::string>(
             "--load",
             [act](const std::string& file) {
-                read_target(file);
-                act([file](projection_dialog& dialog, dialog_hands& in) { dialog.load(in, file); });
+                run::read_target(file);
+                act([file](run::projection_dialog& dialog, dialog_hands& hands) {
+                    dialog.load(hands, file);
+                });
             },
             "Load a .pj4 or .prj file")
         ->type_name("FILE")

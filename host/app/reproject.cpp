@@ -1,32 +1,108 @@
 #include <CLI/CLI.hpp>
+#include <iostream>
 
-#include "app/reprojection.h"
+#include "app/command.h"
+#include "base/files.h"
+#include "run/report.h"
+#include "session/console_messages.h"
+#include "session/language.h"
 
 namespace oxhost::app {
 
+namespace {
+
+namespace fs = std::filesystem;
+using run::outcome;
+
+struct reproject_options {
+    run::order wanted;
+    bool all = false;
+    std::vector<std::string> scenes;
+    console_options console;
+    fs::path report;  ///< empty for none
+    fs::path map;     ///< empty for none
+};
+
+/// Everything that can be found wrong is found here, before anything changes.
+void check_outputs(const reproject_options& options) {
+    std::error_code ignored;
+    for (const fs::path& out : {options.report, options.map}) {
+        if (out.empty()) continue;
+        check_writable(out);
+        if (fs::equivalent(out, options.wanted.project, ignored))
+            throw failure(exit_code::nothing_done, out.string() + ": is the project itself");
+    }
+    if (!options.map.empty() && options.map == options.report)
+        throw failure(exit_code::nothing_done, options.map.string() + ": cannot be both report and map");
+}
+
+exit_code code_of(const std::vector<run::scene_result>& results) {
+    if (count(results, outcome::failed)) return exit_code::scene_failed;
+    if (!count(results, outcome::not_attempted)) return exit_code::done;
+    return messages::instance().declined() ? exit_code::answered_no : exit_code::nothing_done;
+}
+
+void tell(const reproject_options& options, const std::vector<run::scene_result>& results) {
+    for (const run::scene_result& each : results)
+        if (each.failure) std::cerr << failure_line(each) << '\n';
+    if (options.console.quiet) return;
+    std::cout << summary(results);
+    if (std::ranges::any_of(results, &run::scene_result::rolled_back))
+        std::cout << in_language("; все сцены возвращены к прежнему виду",
+                                 "; every scene is as it was before");
+    std::cout << '\n';
+    if (options.wanted.dry_run)
+        std::cout << in_language("Пробный запуск: проект не изменён", "Dry run: the project is unchanged")
+                  << '\n';
+}
+
+exit_code reproject(const reproject_options& options) {
+    run::reprojection work(options.wanted);
+    check_outputs(options);
+    if (!options.console.quiet)
+        for (const std::string& each : work.warnings())
+            std::cerr << in_language("предупреждение: ", "warning: ") << each << '\n';
+    messages::instance().use(std::make_unique<console_messages>(console::standard(), options.console));
+    work.perform();
+    exit_code code = code_of(work.results());
+    try {
+        work.roll_back_if_failed();
+        if (options.wanted.keep_lines) {
+            const run::record told = work.told();
+            if (!options.report.empty()) write_output(options.report, report_text(told));
+            if (!options.map.empty()) write_output(options.map, map_text(told));
+        }
+        work.close();
+    } catch (const std::exception& e) {  // what became of the scenes is told all the same
+        std::cerr << "oxhost: " << e.what() << '\n';
+        if (code == exit_code::done) code = exit_code::nothing_done;
+    }
+    tell(options, work.results());
+    return code;
+}
+
+}  // namespace
+
 void add_reproject(CLI::App& app, action& chosen) {
-    auto options = std::make_shared<reprojection>();
+    auto options = std::make_shared<reproject_options>();
+    run::order& wanted = options->wanted;
     CLI::App* command =
         app.add_subcommand("reproject", "Bring the lines of profile scenes into a projection");
-    command->add_option("project", options->project, "The project")->type_name("PROJECT.gpkg")->required();
-    command->add_option("--to", options->to, target_help)->type_name("TARGET")->required();
+    command->add_option("project", wanted.project, "The project")->type_name("PROJECT.gpkg")->required();
+    command->add_option("--to", wanted.target, target_help)->type_name("TARGET")->required();
 
     auto* which = command->add_option_group("scenes", "Which scenes");
     which->add_flag("--all", options->all, "Every profile scene");
     which->add_option("--scene", options->scenes, "Scenes by number or caption")->type_name("INDEX|CAPTION");
     which->require_option(1);
 
-    auto* yes = command->add_flag_callback(
-        "--yes", [options] { options->questions = answering::yes; }, "Answer questions with yes");
-    command
-        ->add_flag_callback(
-            "--no", [options] { options->questions = answering::no; }, "Answer questions with no")
-        ->excludes(yes);
-    command->add_flag("--dry-run", options->dry_run, "Do all of it, but leave the project as it is");
+    add_answers(*command, options->console);
+    command->add_flag("--dry-run", wanted.dry_run, "Do all of it, but leave the project as it is");
+    using run::on_error;
     static const std::map<std::string, on_error> policies{
         {"stop", on_error::stop}, {"skip", on_error::skip}, {"rollback", on_error::rollback}};
     command
-        ->add_option("--on-error", options->policy,
+        ->add_option("--on-error", wanted.policy,
                      "After a failed scene: stop (default), skip it and go on, or rollback all")
         ->type_name("stop|skip|rollback")
         ->transform(CLI::CheckedTransformer(policies).description(""));
@@ -34,10 +110,14 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("FILE.json");
     command->add_option("--map", options->map, "A picture of the lines before and after")
         ->type_name("FILE.svg");
-    command->add_flag("--quiet", options->quiet, "Say nothing but errors and questions");
+    command->add_flag("--quiet", options->console.quiet, "Say nothing but errors and questions");
     add_language(*command);
-    add_bundle(*command, options->bundle);
-    command->callback([options, &chosen] { chosen = [options] { return reproject(*options); }; });
+    add_bundle(*command, wanted.bundle);
+    command->callback([options, &chosen] {
+        if (!options->all) options->wanted.scenes = options->scenes;
+        options->wanted.keep_lines = !options->report.empty() || !options->map.empty();
+        chosen = [options] { return reproject(*options); };
+    });
 }
 
 }  // namespace oxhost::app

@@ -8,6 +8,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "base/numbers.h"
+
 namespace oxhost {
 namespace {
 
@@ -16,22 +18,16 @@ namespace {
 }
 
 double require_number(const tsv_row& row, std::string_view text) {
-    double value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        refuse(row, "\"" + std::string(text) + "\" is no number");
-    }
-    return value;
+    const auto number = parse_number(text);
+    if (!number) refuse(row, "\"" + std::string(text) + "\" is no number");
+    return *number;
 }
 
 int whole_number(const tsv_row& row, std::string_view column) {
     const std::string& text = row[column];
-    int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size()) {
-        refuse(row, std::string(column) + " \"" + text + "\" is no whole number");
-    }
-    return value;
+    const auto number = parse_whole_number(text);
+    if (!number) refuse(row, std::string(column) + " \"" + text + "\" is no whole number");
+    return static_cast<int>(*number);
 }
 
 catalogue_record begin_record(const tsv_row& row, std::initializer_list<const char*> copied) {

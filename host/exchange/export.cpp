@@ -1,7 +1,7 @@
-#include <stdlib.h>
-
 #include <vector>
 
+#include "base/files.h"
+#include "base/text.h"
 #include "exchange/drivers.h"
 #include "exchange/writer.h"
 
@@ -16,8 +16,7 @@ constexpr std::size_t dbase_text_width = 254;  // bytes; longer texts would be c
 enum class format { geojson, geopackage, shapefile };
 
 format format_of(const fs::path& out) {
-    std::string extension = out.extension();
-    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    const std::string extension = lower(out.extension().string());
     if (extension == ".geojson" || extension == ".json") return format::geojson;
     if (extension == ".gpkg") return format::geopackage;
     if (extension == ".shp") return format::shapefile;
@@ -37,37 +36,16 @@ std::unique_ptr<line_writer> open_writer(format as, const fs::path& out, const f
     return nullptr;
 }
 
-/// A folder beside the output in which it is written; what is ready moves into place at the end.
-class workshop {
-public:
-    explicit workshop(const fs::path& out) : out_(out) {
-        std::string name = (fs::absolute(out).parent_path() / ".oxhost-export-XXXXXX").string();
-        if (!mkdtemp(name.data())) throw exchange_error(out.string() + ": cannot be written into its folder");
-        folder_ = name;
-    }
-    workshop(const workshop&) = delete;
-    workshop& operator=(const workshop&) = delete;
-    ~workshop() {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
-
-    fs::path file() const { return folder_ / out_.filename(); }
-
-    /// A shapefile is several files of one stem: older ones that the new set may lack go first.
-    void deliver(format as) const {
-        if (as == format::shapefile)
-            for (const char* side : {".prj", ".cpg", ".qpj", ".qix", ".sbn", ".sbx"})
-                fs::remove(fs::path(out_).replace_extension(side));
-        std::vector<fs::path> made;
-        for (const auto& entry : fs::directory_iterator(folder_)) made.push_back(entry.path());
-        for (const fs::path& each : made) fs::rename(each, fs::path(out_).replace_filename(each.filename()));
-    }
-
-private:
-    fs::path out_;
-    fs::path folder_;
-};
+/// Moves what was written in a folder beside the output into its place. A shapefile is several files of one
+/// stem: older ones that the new set may lack go first.
+void deliver(const temporary_folder& made, const fs::path& out, format as) {
+    if (as == format::shapefile)
+        for (const char* side : {".prj", ".cpg", ".qpj", ".qix", ".sbn", ".sbx"})
+            fs::remove(fs::path(out).replace_extension(side));
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(made.path())) files.push_back(entry.path());
+    for (const fs::path& each : files) fs::rename(each, fs::path(out).replace_filename(each.filename()));
+}
 
 /// Whether `out` may be replaced at all.
 void check_output(const fs::path& out, const fs::path& project_file) {
@@ -86,11 +64,13 @@ void export_to_file(const fs::path& out, const fs::path& project_file, const std
                     const std::function<std::optional<new_scene>()>& next) try {
     const format as = format_of(out);
     check_output(out, project_file);
-    const workshop place(out);
-    const auto writer = open_writer(as, out, place.file(), crs);
+    const temporary_folder workshop(fs::absolute(out).parent_path() / ".oxhost-export-XXXXXX");
+    const auto writer = open_writer(as, out, workshop / out.filename(), crs);
     while (const std::optional<new_scene> scene = next()) writer->write(*scene);
     writer->finish();
-    place.deliver(as);
+    deliver(workshop, out, as);
+} catch (const file_error& e) {
+    throw exchange_error(out.string() + ": cannot be written into its folder: " + e.what());
 } catch (const fs::filesystem_error& e) {
     throw exchange_error(out.string() + ": cannot be written: " + e.code().message());
 }

@@ -1,10 +1,9 @@
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
 
-#include <algorithm>
-#include <cmath>
 #include <initializer_list>
 
+#include "base/text.h"
 #include "exchange/drivers.h"
 #include "exchange/gdal_guard.h"
 
@@ -44,8 +43,7 @@ bool northing_first(const OGRSpatialReference* crs) {
 }
 
 bool is_true(const OGRFeature& feature, int field) {
-    std::string text = feature.GetFieldAsString(field);
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    const std::string text = lower(feature.GetFieldAsString(field));
     return !(text.empty() || text == "0" || text == "false" || text == "no");
 }
 
@@ -118,7 +116,7 @@ private:
         for (std::size_t i = 0; i < points.size(); ++i) {
             const int at = static_cast<int>(i);
             points[i] = swap_ ? point{line.getY(at), line.getX(at)} : point{line.getX(at), line.getY(at)};
-            if (!std::isfinite(points[i].x) || !std::isfinite(points[i].y))
+            if (!is_finite(points[i]))
                 throw exchange_error("vertex " + std::to_string(i) + " of \"" + caption +
                                      "\" is not a number");
         }

@@ -4,17 +4,14 @@
 #include <array>
 #include <cmath>
 #include <string>
-#include <unordered_map>
 
 #include <proj_experimental.h>
 
-#include "geodesy/pair_memo.h"
+#include "base/memo.h"
+#include "base/numbers.h"
 
 namespace oxhost {
 namespace {
-
-/// Texts come from files and rows: many rows, few texts. Beyond this the store starts afresh.
-constexpr std::size_t most_kept = 4096;
 
 /// Keys whose meaning PROJ's comparison of coordinate systems does not look at.
 constexpr std::array<const char*, 7> uncompared{"axis",   "over", "geoc", "nadgrids",
@@ -137,17 +134,14 @@ bool compare(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::shared_ptr<const crs> crs_of(std::string_view text) {
-    static std::unordered_map<std::string, std::shared_ptr<const crs>> kept;
-    const std::string key(text);
-    if (const auto found = kept.find(key); found != kept.end()) return found->second;
-    if (kept.size() >= most_kept) kept.clear();
-    return kept[key] = prepare(text);
+    static memo<std::shared_ptr<const crs>> kept(4096);
+    return kept.of(text, [&] { return prepare(text); });
 }
 
 bool equal(std::string_view a, std::string_view b) {
     if (a == b) return true;
-    static pair_memo<char> judged;
-    return judged(a, b, compare);
+    static memo<bool> judged(32768);  // a large project, a projection per line; tens of MB
+    return judged.of(a, b, [&] { return compare(a, b); });
 }
 
 ellipsoid ellipsoid_of(const PJ* crs_object) {

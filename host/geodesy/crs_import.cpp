@@ -1,26 +1,15 @@
 #include "geodesy/crs_import.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 #include <proj_experimental.h>
 
+#include "base/text.h"
 #include "geodesy/published_shifts.h"
 
 namespace oxhost {
 namespace {
-
-std::string trimmed(std::string_view text) {
-    const auto start = text.find_first_not_of(" \t\r\n\v\f");
-    if (start == text.npos) return {};
-    return std::string(text.substr(start, text.find_last_not_of(" \t\r\n\v\f") + 1 - start));
-}
-
-bool same_letters(std::string_view a, std::string_view b) {
-    return std::ranges::equal(
-        a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
-}
 
 /// The horizontal, two-dimensional part of a CRS.
 pj_ptr horizontal(const PJ* crs_object) {
@@ -84,7 +73,7 @@ std::optional<std::string> proj4_of(const PJ* crs_object) {
 }
 
 std::optional<std::string> import_crs(std::string_view identifier) {
-    const std::string name = trimmed(identifier);
+    const std::string name(trimmed(identifier));
     if (name.empty()) return {};
     const proj4_text tokens(name);
     if (tokens.has("proj")) return crs_of(name)->valid() ? std::optional(name) : std::nullopt;
@@ -93,7 +82,7 @@ std::optional<std::string> import_crs(std::string_view identifier) {
     if (!system || !proj_is_crs(system.get())) return {};
     // PROJ also takes the beginning of a name for the name.
     const bool spelled_out = name.find_first_of(":[{=") != name.npos;
-    if (!spelled_out && !same_letters(name, proj_get_name(system.get()))) return {};
+    if (!spelled_out && lower(name) != lower(proj_get_name(system.get()))) return {};
     return proj4_of(system.get());
 }
 

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "base/numbers.h"
+#include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/description_words.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "session/language.h"
+#include "base/language.h"
 
 namespace oxhost {
 

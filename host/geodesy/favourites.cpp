@@ -2,12 +2,10 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <iostream>
-#include <stdexcept>
 
 #include <nlohmann/json.hpp>
 
-#include "geodesy/atomic_file.h"
+#include "base/files.h"
 
 namespace oxhost {
 namespace {
@@ -31,45 +29,47 @@ std::vector<favourite> parse(const std::string& content) {
     return items;
 }
 
-void put_aside(const std::string& path, const std::string& reason) {
+/// Answers the new name.
+std::string put_aside(const std::string& path) {
     std::string aside;
     for (int number = 1; aside.empty() || std::filesystem::exists(aside); ++number) {
         aside = path + ".damaged-" + std::to_string(number);
     }
     std::error_code error;
     std::filesystem::rename(path, aside, error);
-    if (error) throw std::runtime_error(path + ": damaged and cannot be put aside: " + error.message());
-    std::cerr << "oxhost: " << path << ": damaged favourites, kept as " << aside << " (" << reason << ")\n";
+    if (error) throw file_error(path + ": damaged and cannot be put aside: " + error.message());
+    return aside;
 }
 
 }  // namespace
 
 std::string favourites_path() { return configuration_folder() + "/favourites.json"; }
 
-void favourite_list::load() {
+std::optional<std::string> favourite_list::load() {
     items_.clear();
     stored_.clear();
     unreadable_ = false;
     const std::string path = favourites_path();
     try {
         const auto content = read_file(path, std::size_t{16} << 20);
-        if (!content) return;
+        if (!content) return {};
         try {
             items_ = parse(*content);
         } catch (const nlohmann::json::exception& damage) {
-            put_aside(path, damage.what());
+            return path + ": damaged favourites, kept as " + put_aside(path) + " (" + damage.what() + ')';
         }
-    } catch (const std::runtime_error& error) {
+    } catch (const file_error& error) {
         unreadable_ = true;
-        std::cerr << "oxhost: " << error.what() << '\n';
+        return error.what();
     }
     stored_ = items_;
+    return {};
 }
 
 void favourite_list::save() {
     if (items_ == stored_) return;
     const std::string path = favourites_path();
-    if (unreadable_) throw std::runtime_error(path + ": could not be read before, so it is not replaced");
+    if (unreadable_) throw file_error(path + ": could not be read before, so it is not replaced");
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
     for (const auto& [caption, proj4] : items_) list.push_back({{"caption", caption}, {"proj4", proj4}});
     std::error_code ignored;  // the write says what is wrong

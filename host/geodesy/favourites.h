@@ -3,6 +3,7 @@
 /// $OXHOST_CONFIG, else $XDG_CONFIG_HOME/oxhost, else ~/.config/oxhost. [ui]
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,11 +17,11 @@ struct favourite {
 
 class favourite_list {
 public:
-    /// Replaces the items by the stored ones. A file that is damaged is renamed to `...damaged-N`, with
-    /// one line on standard error, and the list is empty.
-    void load();
+    /// Replaces the items by the stored ones. When that fails, the list is empty and one line says why: a
+    /// file that is damaged is renamed to `...damaged-N`, one that cannot be read stays.
+    std::optional<std::string> load();
     /// Stores the items; a list as it was loaded or stored writes nothing. Whoever stores last wins.
-    /// Throws std::runtime_error that names the file, also when that file could not be read before.
+    /// Throws file_error, also when the file could not be read before.
     void save();
 
     std::int32_t count() const { return static_cast<std::int32_t>(items_.size()); }

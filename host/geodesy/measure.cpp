@@ -6,6 +6,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "base/memo.h"
 #include "geodesy/crs.h"
 #include "geodesy/transformation.h"
 
@@ -50,7 +51,7 @@ struct own_ellipsoid {
         for (point& at : result) {
             const PJ_COORD moved = proj_trans(to_base.get(), PJ_FWD, proj_coord(at.x, at.y, 0, 0));
             at = {moved.xy.x, moved.xy.y};
-            if (!std::isfinite(at.x) || !std::isfinite(at.y) || std::abs(at.y) > 90) return {};
+            if (!is_finite(at) || std::abs(at.y) > 90) return {};
         }
         return result;
     }
@@ -60,11 +61,9 @@ struct own_ellipsoid {
     pj_ptr to_base;
 };
 
-/// Prepared once while the same text comes again and again.
 const own_ellipsoid& own_ellipsoid_of(std::string_view proj4) {
-    static std::unique_ptr<const own_ellipsoid> last;
-    if (!last || last->system->text != proj4) last = std::make_unique<const own_ellipsoid>(proj4);
-    return *last;
+    static memo<own_ellipsoid> kept(64);
+    return kept.of(proj4, [&] { return own_ellipsoid(proj4); });
 }
 
 double largest_distance(const polyline& a, const polyline& b) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 
 namespace oxhost {
 

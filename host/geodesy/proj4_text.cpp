@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 
+#include "base/memo.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "geodesy/proj_context.h"
 
 namespace oxhost {
 namespace {
-
-constexpr std::string_view blanks = " \t\r\n\v\f";
 
 /// Keys that name no property of a 2D coordinate system: notation, wrapping, heights.
 constexpr std::array<std::string_view, 10> without_effect{"no_defs",    "wktext",    "type",   "lon_wrap",
@@ -24,22 +23,24 @@ struct named_datum {
 
 /// PROJ's own table of datum names, asked through an object's expanded definition. Nothing for names it
 /// does not know and for NAD27, which has grids only.
-std::optional<named_datum> datum_definition(const std::string& name) {
-    static std::map<std::string, std::optional<named_datum>> known;
-    if (const auto found = known.find(name); found != known.end()) return found->second;
-    std::optional<named_datum>& entry = known[name];
+std::optional<named_datum> ask_datum(const std::string& name) {
     const std::string probe = "+proj=longlat +datum=" + name;
     const pj_ptr object(proj_create(proj_context(), probe.c_str()));
     if (!object) {
         take_proj_complaint();
-        return entry;
+        return {};
     }
     const proj4_text expanded(proj_pj_info(object.get()).definition);
     auto shift = expanded.shift();
     // PROJ has a grid for Potsdam; its published seven parameters: EPSG:1777, DHDN to WGS 84 (2).
     if (name == "potsdam") shift = towgs84{598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7};
-    if (shift) entry = named_datum{expanded.value("ellps").value_or(""), *shift};
-    return entry;
+    if (!shift) return {};
+    return named_datum{expanded.value("ellps").value_or(""), *shift};
+}
+
+const std::optional<named_datum>& datum_definition(const std::string& name) {
+    static memo<std::optional<named_datum>> known(256);
+    return known.of(name, [&] { return ask_datum(name); });
 }
 
 std::string normal_value(const std::string& value) {
@@ -49,10 +50,7 @@ std::string normal_value(const std::string& value) {
 
 std::string shift_text(const towgs84& shift) {
     std::string text;
-    for (const double value : shift) {
-        if (!text.empty()) text += ',';
-        text += number_text(value);
-    }
+    for (const double value : shift) append_item(text, number_text(value), ",");
     return text;
 }
 
@@ -63,25 +61,6 @@ void remove_default(std::map<std::string, std::string>& keys, const std::string&
 }
 
 }  // namespace
-
-std::optional<double> parse_number(std::string_view text) {
-    if (text.starts_with('+')) text.remove_prefix(1);
-    double number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end || !std::isfinite(number)) return {};
-    return number;
-}
-
-std::string number_text(double number) {
-    if (number == 0) return "0";
-    // Without an exponent wherever that is readable: some readers take the "+" of "1e+07" for a new key.
-    const double size = std::abs(number);
-    const auto form = size >= 1e-7 && size < 1e15 ? std::chars_format::fixed : std::chars_format::scientific;
-    std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, form).ptr;
-    return {digits.data(), end};
-}
 
 proj4_text::proj4_text(std::string_view text) {
     while (true) {

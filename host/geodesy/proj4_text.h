@@ -51,9 +51,4 @@ private:
     std::vector<token> tokens_;
 };
 
-/// A whole text as a number, whatever the locale; nothing when something is left over.
-std::optional<double> parse_number(std::string_view text);
-/// Shortest digits that read back as the same number.
-std::string number_text(double number);
-
 }  // namespace oxhost

@@ -3,9 +3,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <stdexcept>
+#include <optional>
 
-#include "geodesy/atomic_file.h"
+#include "base/files.h"
+#include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
 
@@ -19,16 +20,14 @@ std::string companion_of(const std::string& path) { return path + ".pj4"; }
 /// A file's text without byte order mark and surrounding blanks; empty when it is not text.
 std::string text_in(const std::string& path) {
     const auto content = read_file(path);
-    if (!content) throw std::runtime_error(path + ": no such file");
+    if (!content) throw file_error(path + ": no such file");
     std::string text = *content;
     if (text.starts_with(byte_order_mark)) text.erase(0, byte_order_mark.size());
     const auto is_binary = [](unsigned char c) {
-        return c < ' ' && std::string_view("\t\r\n\v\f").find(static_cast<char>(c)) == std::string_view::npos;
+        return c < ' ' && blanks.find(static_cast<char>(c)) == blanks.npos;
     };
     if (std::ranges::any_of(text, is_binary)) return {};
-    const auto start = text.find_first_not_of(" \t\r\n\v\f");
-    if (start == text.npos) return {};
-    return text.substr(start, text.find_last_not_of(" \t\r\n\v\f") + 1 - start);
+    return std::string(trimmed(text));
 }
 
 bool is_proj4(std::string_view text) {
@@ -37,9 +36,7 @@ bool is_proj4(std::string_view text) {
 }
 
 std::string first_line(const std::string& text) {
-    std::string line = text.substr(0, text.find_first_of("\r\n"));
-    line.erase(line.find_last_not_of(" \t") + 1);
-    return line;
+    return std::string(trimmed(std::string_view(text).substr(0, text.find_first_of("\r\n"))));
 }
 
 /// The proj4 text of WKT in any of its dialects.
@@ -60,7 +57,7 @@ std::string esri_wkt(const PJ* system) {
 /// datum by that name.
 std::string esri_text(const std::string& path, std::string_view proj4) {
     const auto system = crs_of(proj4);
-    if (!system->valid()) throw std::runtime_error(path + ": no projection to write: " + system->error);
+    if (!system->valid()) throw file_error(path + ": no projection to write: " + system->error);
     std::string wkt;
     if (const auto code = epsg_code(proj4)) {
         const pj_ptr known(proj_create(proj_context(), code->c_str()));
@@ -73,7 +70,7 @@ std::string esri_text(const std::string& path, std::string_view proj4) {
         wkt = esri_wkt(plain.get());
     }
     const std::string reason = take_proj_complaint();
-    if (wkt.empty()) throw std::runtime_error(path + ": the projection has no ESRI form: " + reason);
+    if (wkt.empty()) throw file_error(path + ": the projection has no ESRI form: " + reason);
     return wkt;
 }
 
@@ -87,7 +84,7 @@ std::optional<std::string> companion_text(const std::string& path, const std::st
     try {
         auto text = pj4_text(companion_of(path));
         if (text && esri_text(path, *text) == content) return text;
-    } catch (const std::runtime_error&) {
+    } catch (const file_error&) {
         // unreadable, or a text without ESRI form: not what save_prj leaves
     }
     return {};
@@ -99,23 +96,16 @@ std::optional<std::string> prj_text(const std::string& path) {
     return is_proj4(content) ? import_crs(first_line(content)) : from_wkt(content);
 }
 
-std::optional<std::string> load(const std::string& path,
-                                std::optional<std::string> (*read)(const std::string& path)) {
-    projection_file_error().clear();
-    try {
-        if (auto text = read(path)) return text;
-        projection_file_error() = path + ": holds no projection";
-    } catch (const std::runtime_error& error) {
-        projection_file_error() = error.what();
-    }
-    return {};
+std::string required(const std::string& path, std::optional<std::string> text) {
+    if (!text) throw file_error(path + ": holds no projection that PROJ knows");
+    return *std::move(text);
 }
 
 }  // namespace
 
-std::optional<std::string> load_pj4(const std::string& path) { return load(path, pj4_text); }
+std::string load_pj4(const std::string& path) { return required(path, pj4_text(path)); }
 
-std::optional<std::string> load_prj(const std::string& path) { return load(path, prj_text); }
+std::string load_prj(const std::string& path) { return required(path, prj_text(path)); }
 
 void save_pj4(const std::string& path, std::string_view proj4) {
     replace_file(path, proj4.empty() ? std::string() : std::string(proj4) + '\n');
@@ -131,11 +121,6 @@ void save_prj(const std::string& path, std::string_view proj4) {
     if (!complete) save_pj4(companion_of(path), proj4);
     replace_file(path, wkt);
     if (complete) unlink(companion_of(path).c_str());
-}
-
-std::string& projection_file_error() {
-    static std::string error;
-    return error;
 }
 
 }  // namespace oxhost

@@ -7,26 +7,22 @@
 /// companion counts only as long as the `.prj` is the one it was written with, so a `.prj` that other
 /// software replaced is read for what it says.
 
-#include <optional>
 #include <string>
 #include <string_view>
 
 namespace oxhost {
 
-/// The proj4 text, or nothing, with the reason in `projection_file_error`, for a file that is missing,
-/// unreadable or holds something else.
-std::optional<std::string> load_pj4(const std::string& path);
-/// Also reads WKT of other makers (GDAL's, WKT2) and proj4 texts under this extension.
-std::optional<std::string> load_prj(const std::string& path);
+// All throw file_error.
 
-/// Both throw std::runtime_error, naming the file, and leave an old file as it was.
-/// The `.pj4` holds the text as given; an empty text makes an empty file.
+/// The proj4 text of a file; a file that is missing, unreadable or holds something else is an error.
+std::string load_pj4(const std::string& path);
+/// Also reads WKT of other makers (GDAL's, WKT2) and proj4 texts under this extension.
+std::string load_prj(const std::string& path);
+
+/// A save that fails leaves an old file as it was. The `.pj4` holds the text as given; an empty text makes an
+/// empty file.
 void save_pj4(const std::string& path, std::string_view proj4);
 /// Refuses a text that has no ESRI form.
 void save_prj(const std::string& path, std::string_view proj4);
-
-/// What went wrong in the last load, or in the last save through the C functions, which cannot answer it:
-/// one line, or empty when all went well.
-std::string& projection_file_error();
 
 }  // namespace oxhost

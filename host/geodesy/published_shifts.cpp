@@ -3,8 +3,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <map>
 
+#include "base/memo.h"
+#include "base/numbers.h"
 namespace oxhost {
 namespace {
 
@@ -38,6 +39,29 @@ std::optional<published_shift> read_shift(const PJ* operation) {
     proj_get_area_of_use(proj_context(), operation, &shift.west, &shift.south, &shift.east, &shift.north,
                          nullptr);
     return shift;
+}
+
+/// Those of every geographic system of the EPSG data set that stands on this ellipsoid.
+std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
+    std::vector<published_shift> shifts;
+    PJ_CONTEXT* const context = proj_context();
+    const PJ_TYPE type = PJ_TYPE_GEOGRAPHIC_2D_CRS;
+    PROJ_CRS_LIST_PARAMETERS* const wanted = proj_get_crs_list_parameters_create();
+    wanted->types = &type;
+    wanted->typesCount = 1;
+    int count = 0;
+    PROJ_CRS_INFO** const list = proj_get_crs_info_list_from_database(context, "EPSG", wanted, &count);
+    proj_get_crs_list_parameters_destroy(wanted);
+    for (int i = 0; i < count; ++i) {
+        const pj_ptr system(
+            proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
+        if (!system) continue;
+        const ellipsoid own = ellipsoid_of(system.get());
+        if (std::abs(own.a - shape.a) > 1e-3 || std::abs(own.rf - shape.rf) > 1e-6) continue;
+        for (auto& shift : published_shifts(system.get())) shifts.push_back(std::move(shift));
+    }
+    proj_crs_info_list_destroy(list);
+    return shifts;
 }
 
 }  // namespace
@@ -76,28 +100,9 @@ std::vector<published_shift> published_shifts(const PJ* crs_object) {
     return shifts;
 }
 
-const std::vector<published_shift>& published_shifts(const ellipsoid& on) {
-    static std::map<std::pair<double, double>, std::vector<published_shift>> kept;
-    const auto [entry, fresh] = kept.try_emplace({on.a, on.rf});
-    if (!fresh) return entry->second;
-    PJ_CONTEXT* const context = proj_context();
-    const PJ_TYPE type = PJ_TYPE_GEOGRAPHIC_2D_CRS;
-    PROJ_CRS_LIST_PARAMETERS* const wanted = proj_get_crs_list_parameters_create();
-    wanted->types = &type;
-    wanted->typesCount = 1;
-    int count = 0;
-    PROJ_CRS_INFO** const list = proj_get_crs_info_list_from_database(context, "EPSG", wanted, &count);
-    proj_get_crs_list_parameters_destroy(wanted);
-    for (int i = 0; i < count; ++i) {
-        const pj_ptr system(
-            proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
-        if (!system) continue;
-        const ellipsoid own = ellipsoid_of(system.get());
-        if (std::abs(own.a - on.a) > 1e-3 || std::abs(own.rf - on.rf) > 1e-6) continue;
-        for (auto& shift : published_shifts(system.get())) entry->second.push_back(std::move(shift));
-    }
-    proj_crs_info_list_destroy(list);
-    return entry->second;
+const std::vector<published_shift>& published_shifts(const ellipsoid& shape) {
+    static memo<std::vector<published_shift>> kept(64);
+    return kept.of(number_text(shape.a), number_text(shape.rf), [&] { return shifts_from_all(shape); });
 }
 
 const published_shift* best_shift(const std::vector<published_shift>& shifts, point at) {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "base/line.h"
 #include "geodesy/crs.h"
-#include "geometry/polyline.h"
 
 namespace oxhost {
 
@@ -25,7 +25,7 @@ struct published_shift {
 std::vector<published_shift> published_shifts(const PJ* crs_object);
 
 /// From every datum on this ellipsoid.
-const std::vector<published_shift>& published_shifts(const ellipsoid& on);
+const std::vector<published_shift>& published_shifts(const ellipsoid& shape);
 
 /// The one that PROJ itself takes at `at` (longitude, latitude): of those that cover the place the most
 /// accurate; the first of all when none covers it.

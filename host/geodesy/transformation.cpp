@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
-#include <unordered_map>
 
+#include "base/memo.h"
 #include "geodesy/published_shifts.h"
 
 namespace oxhost {
 namespace {
 
-constexpr std::size_t most_kept = 256;
-
 [[noreturn]] void refuse(const crs& system, std::string_view side) {
     throw std::invalid_argument(std::string(side) + " projection \"" + system.text + "\": " + system.error);
 }
-
-bool finite(const point& at) { return std::isfinite(at.x) && std::isfinite(at.y); }
 
 void transform(PJ* pipeline, polyline& line) {
     if (line.empty()) return;
@@ -66,11 +62,12 @@ publication publication_of(const crs& system) {
 
 std::shared_ptr<const transformation> transformation::between(std::string_view source,
                                                               std::string_view target) {
-    static std::unordered_map<std::string, std::shared_ptr<const transformation>> kept;
-    std::string key(source);
-    key.append(1, '\0').append(target);
-    if (const auto found = kept.find(key); found != kept.end()) return found->second;
+    static memo<std::shared_ptr<const transformation>> kept(256);
+    return kept.of(source, target, [&] { return prepare(source, target); });
+}
 
+std::shared_ptr<const transformation> transformation::prepare(std::string_view source,
+                                                              std::string_view target) {
     const std::shared_ptr<transformation> made(new transformation);
     made->source_ = crs_of(source);
     made->target_ = crs_of(target);
@@ -85,15 +82,14 @@ std::shared_ptr<const transformation> transformation::between(std::string_view s
         throw std::invalid_argument("no transformation from \"" + made->source_->text + "\" to \"" +
                                     made->target_->text + "\": " + take_proj_complaint());
     }
-    if (kept.size() >= most_kept) kept.clear();
-    return kept[key] = made;
+    return made;
 }
 
 std::optional<vertex_failure> transformation::apply(polyline& line) const {
     polyline result = line;
     transform(pipeline_.get(), result);
     bool good = true;
-    for (const point& at : result) good = good && finite(at);
+    for (const point& at : result) good = good && is_finite(at);
     // The longitude/latitude steps of PROJ take any number for a latitude.
     if (source_->geographic) {
         for (const point& at : line) good = good && std::abs(at.y) <= 90;
@@ -109,11 +105,11 @@ std::optional<vertex_failure> transformation::apply(polyline& line) const {
 std::optional<vertex_failure> transformation::first_failure(const polyline& before,
                                                             const polyline& after) const {
     for (std::size_t i = 0; i < before.size(); ++i) {
-        if (!finite(before[i])) return vertex_failure{i, before[i], "coordinates are not finite numbers"};
+        if (!is_finite(before[i])) return vertex_failure{i, before[i], "coordinates are not finite numbers"};
         if (source_->geographic && std::abs(before[i].y) > 90) {
             return vertex_failure{i, before[i], "latitude is beyond 90 degrees"};
         }
-        if (finite(after[i])) continue;
+        if (is_finite(after[i])) continue;
         polyline alone{before[i]};
         take_proj_complaint();
         transform(pipeline_.get(), alone);

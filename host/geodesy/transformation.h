@@ -7,9 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/line.h"
 #include "geodesy/crs.h"
-#include "geometry/polyline.h"
-#include "session/journal.h"
 
 namespace oxhost {
 
@@ -38,6 +37,7 @@ public:
 
 private:
     transformation() = default;
+    static std::shared_ptr<const transformation> prepare(std::string_view source, std::string_view target);
     std::optional<vertex_failure> first_failure(const polyline& before, const polyline& after) const;
 
     std::shared_ptr<const crs> source_;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "base/numbers.h"
 #include "geodesy/crs.h"
 #include "geodesy/known_keys.h"
 #include "geodesy/measure.h"

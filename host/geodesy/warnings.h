@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "geometry/polyline.h"
-#include "session/language.h"
+#include "base/language.h"
+#include "base/line.h"
 
 namespace oxhost {
 

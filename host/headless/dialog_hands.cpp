@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "geodesy/proj4_text.h"
+#include "base/numbers.h"
 
 namespace oxhost::headless {
 
@@ -106,6 +106,10 @@ node& dialog_hands::tool(std::string_view id) {
     for (node* each : tools) ids.push_back(each->id());
     throw impossible("the dialog " + in_quotes(dialog_.caption()) + " has no tool " + in_quotes(id) +
                      "; it has " + joined(ids));
+}
+
+std::vector<node*> dialog_hands::all_in_group(node_kind kind, std::string_view group) {
+    return all(dialog_, [&](node& each) { return each.kind() == kind && stands_in_group(each, group); });
 }
 
 node& dialog_hands::menu_button() {

@@ -30,6 +30,8 @@ public:
     /// The one element of that kind.
     shell::node& only(shell::node_kind kind);
     shell::node& tool(std::string_view id);
+    /// Those of a kind in the group of that caption, in reading order.
+    std::vector<shell::node*> all_in_group(shell::node_kind kind, std::string_view group);
     /// The one button with a menu.
     shell::node& menu_button();
 
@@ -54,6 +56,10 @@ private:
 
     shell::open_dialog& dialog_;
 };
+
+/// A dialog as it is shown, as text: a line for each control with its caption, value and choices, groups
+/// indented under theirs.
+std::string dialog_text(shell::open_dialog& dialog);
 
 /// Sets the check boxes of these rows.
 void check_rows(shell::table_model& table, std::span<const std::uint32_t> rows);

@@ -1,9 +1,9 @@
 #include "project/line_blob.h"
 
 #include <array>
-#include <bit>
-#include <cstring>
 #include <string>
+
+#include "base/byte_view.h"
 
 namespace oxhost {
 
@@ -19,44 +19,12 @@ constexpr std::array<std::size_t, 5> envelope_sizes{0, 32, 48, 48, 64};  // none
 constexpr std::uint32_t wkb_line_string = 2;
 constexpr std::size_t vertex_size = 2 * sizeof(double);
 
-template <class T>
-T swapped(T value) {
-    auto bytes = std::bit_cast<std::array<std::byte, sizeof(T)>>(value);
-    std::reverse(bytes.begin(), bytes.end());
-    return std::bit_cast<T>(bytes);
-}
-
-/// Every read of a blob goes through `take`.
-class byte_view {
-public:
-    explicit byte_view(std::span<const std::byte> bytes) : rest_(bytes) {}
-
-    std::span<const std::byte> take(std::size_t count) {
-        if (count > rest_.size()) throw blob_error("geometry is cut short");
-        auto taken = rest_.first(count);
-        rest_ = rest_.subspan(count);
-        return taken;
-    }
-    std::span<const std::byte> rest() const { return rest_; }
-
-    template <class T>
-    T read(bool little) {
-        T value;
-        std::memcpy(&value, take(sizeof(T)).data(), sizeof(T));
-        return little == (std::endian::native == std::endian::little) ? value : swapped(value);
-    }
-    unsigned read_byte() { return std::to_integer<unsigned>(take(1)[0]); }
-
-private:
-    std::span<const std::byte> rest_;
-};
-
 /// The vertices of a blob that passed all checks.
 struct vertex_block {
-    bool little;
+    std::endian order;
     std::size_t count;
     byte_view bytes;
-    point next() { return {.x = bytes.read<double>(little), .y = bytes.read<double>(little)}; }
+    point next() { return {.x = bytes.read<double>(order), .y = bytes.read<double>(order)}; }
 };
 
 std::string name_of_type(std::uint32_t code) {
@@ -65,7 +33,7 @@ std::string name_of_type(std::uint32_t code) {
     return code < names.size() ? names[code] : "geometry of type " + std::to_string(code);
 }
 
-vertex_block open_blob(std::span<const std::byte> blob) {
+vertex_block open_blob(std::span<const std::byte> blob) try {
     byte_view view(blob);
     const auto magic = view.take(3);
     if (magic[0] != letter_g || magic[1] != letter_p) throw blob_error("geometry is no GeoPackage blob");
@@ -77,25 +45,27 @@ vertex_block open_blob(std::span<const std::byte> blob) {
     view.take(4);  // srs_id: the scene's projection is the text beside the line
     view.take(envelope_sizes[envelope]);
 
-    const unsigned order = view.read_byte();
-    if (order > 1) throw blob_error("geometry has an unknown byte order");
-    const bool little = order == 1;
-    const auto type = view.read<std::uint32_t>(little);
+    const unsigned order_mark = view.read_byte();
+    if (order_mark > 1) throw blob_error("geometry has an unknown byte order");
+    const std::endian order = order_mark == 1 ? std::endian::little : std::endian::big;
+    const auto type = view.read<std::uint32_t>(order);
     const bool heights = type >= 1000 || (type & 0xC0000000U) != 0;  // ISO thousands, or the EWKB high bits
     const auto plain = (type & 0x0FFFFFFFU) % 1000;
     if (plain != wkb_line_string)
         throw blob_error("geometry is a " + name_of_type(plain) + ", not a LineString");
     if (heights) throw blob_error("geometry has heights or measures (lines are 2D)");
     if (type != wkb_line_string) throw blob_error("geometry has an unknown type");
-    const std::size_t count = view.read<std::uint32_t>(little);
-    if (view.rest().size() / vertex_size < count) throw blob_error("geometry is cut short");
+    const std::size_t count = view.read<std::uint32_t>(order);
+    if (view.rest().size() / vertex_size < count) throw cut_short();
     if (view.rest().size() != count * vertex_size) throw blob_error("geometry has bytes after its end");
-    return {.little = little, .count = count, .bytes = view};
+    return {.order = order, .count = count, .bytes = view};
+} catch (const cut_short&) {
+    throw blob_error("geometry is cut short");
 }
 
 template <class T>
 std::byte* put(std::byte* at, T value) {
-    if constexpr (std::endian::native != std::endian::little) value = swapped(value);
+    value = little_endian(value);
     std::memcpy(at, &value, sizeof(T));
     return at + sizeof(T);
 }

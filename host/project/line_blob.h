@@ -2,16 +2,13 @@
 /// Lines as GeoPackage geometry blobs: a header ("GP", flags, srs_id, optional envelope) and a
 /// well-known-binary LineString. Both byte orders are read, little-endian is written. 2D only.
 
-#include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <span>
 #include <stdexcept>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 
 namespace oxhost {
 
@@ -22,25 +19,6 @@ struct blob_error : std::runtime_error {
 
 /// Undefined cartesian: every scene has a projection of its own, written as text beside the line.
 inline constexpr std::int32_t undefined_cartesian_srs = -1;
-
-/// Smallest rectangle around points; empty (minimum above maximum) at first. Non-finite points are left out.
-struct extent {
-    double min_x = std::numeric_limits<double>::infinity();
-    double min_y = std::numeric_limits<double>::infinity();
-    double max_x = -std::numeric_limits<double>::infinity();
-    double max_y = -std::numeric_limits<double>::infinity();
-
-    bool empty() const { return min_x > max_x; }
-    void add(const extent& other) {
-        min_x = std::min(min_x, other.min_x);
-        min_y = std::min(min_y, other.min_y);
-        max_x = std::max(max_x, other.max_x);
-        max_y = std::max(max_y, other.max_y);
-    }
-    void add(const point& p) {
-        if (std::isfinite(p.x) && std::isfinite(p.y)) add(extent{p.x, p.y, p.x, p.y});
-    }
-};
 
 /// What is kept in memory of a line whose vertices stay in the file.
 struct line_summary {

@@ -37,6 +37,10 @@ void bind_line(sqlite::statement& to, int parameter, const std::optional<std::ve
 
 }  // namespace
 
+std::string name_of(const scene& named) {
+    return "scene " + std::to_string(named.index) + " \"" + named.caption + '"';
+}
+
 project::project(std::unique_ptr<store> opened) : store_(std::move(opened)) { store_->load(*this); }
 
 project::~project() {
@@ -250,5 +254,16 @@ void project::restore(std::span<const scene_state> states) {
         store_->lent.erase(&of);
     }
 }
+
+// ---- the one that is served
+
+namespace {
+
+project* current = nullptr;
+
+}  // namespace
+
+project* current_project() { return current; }
+void set_current_project(project* opened) { current = opened; }
 
 }  // namespace oxhost

@@ -28,7 +28,7 @@
 #include <string>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 #include "project/line_blob.h"
 
 namespace oxhost {
@@ -50,6 +50,9 @@ struct scene {
     std::string proj4;                 ///< UTF-8; empty = no projection
     std::optional<line_summary> line;  ///< empty = no line, hence no profile data
 };
+
+/// `scene 3 "caption"`, as messages call it.
+std::string name_of(const scene& named);
 
 /// A scene to be added.
 struct new_scene {
@@ -141,5 +144,14 @@ private:
 /// The project that the host's modules serve; null when none is open. Not owned.
 project* current_project();
 void set_current_project(project* opened);
+
+/// Has a project served for as long as it lives.
+class served_project {
+public:
+    explicit served_project(project* opened) { set_current_project(opened); }
+    ~served_project() { set_current_project(nullptr); }
+    served_project(const served_project&) = delete;
+    served_project& operator=(const served_project&) = delete;
+};
 
 }  // namespace oxhost

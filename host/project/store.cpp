@@ -39,8 +39,8 @@ void refuse(const std::filesystem::path& file, const std::string& reason) {
     throw project_error(file.string() + ": " + reason);
 }
 
-void refuse(const scene& of, const std::string& reason) {
-    refuse(of.owner->path(), "scene " + std::to_string(of.index) + " \"" + of.caption + "\": " + reason);
+void refuse(const scene& concerned, const std::string& reason) {
+    refuse(concerned.owner->path(), name_of(concerned) + ": " + reason);
 }
 
 void project::store::load(project& owner) {

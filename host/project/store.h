@@ -12,7 +12,7 @@ namespace oxhost {
 std::string explain(const sqlite::error& e);
 
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& reason);
-[[noreturn]] void refuse(const scene& of, const std::string& reason);
+[[noreturn]] void refuse(const scene& concerned, const std::string& reason);
 
 /// What one scene has been given since its bracket was opened.
 struct bracket {

@@ -1,5 +1,7 @@
 #include "session/journal.h"
 
+#include <utility>
+
 namespace oxhost {
 
 journal& journal::instance() {
@@ -7,9 +9,19 @@ journal& journal::instance() {
     return only;
 }
 
+void journal::clear() {
+    updates_.clear();
+    open_ = false;
+    file_failure_.reset();
+}
+
 void journal::begin(std::size_t scene) {
     updates_.emplace_back().scene = scene;
     open_ = true;
 }
+
+void journal::file_function_ended(std::optional<std::string> failure) { file_failure_ = std::move(failure); }
+
+std::optional<std::string> journal::take_file_failure() { return std::exchange(file_failure_, {}); }
 
 }  // namespace oxhost

@@ -1,22 +1,15 @@
 #pragma once
 /// What the host's own functions saw while a module worked: the source of reports.
-/// The modules of the host write it, the command line reads it; one per process. [ui]
+/// The modules of the host write it, whoever runs the host reads it; one per process. [ui]
 
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 
 namespace oxhost {
-
-/// The vertex at which a transformation gave up.
-struct vertex_failure {
-    std::size_t vertex;  ///< counted from 0
-    point at;            ///< in the source projection
-    std::string reason;  ///< as the projection library puts it
-};
 
 /// One update bracket of one scene.
 struct scene_update {
@@ -32,19 +25,22 @@ class journal {
 public:
     static journal& instance();
 
-    void clear() {
-        updates_.clear();
-        open_ = false;
-    }
+    void clear();
     void begin(std::size_t scene);  ///< opens the record of a scene's update
     void end() { open_ = false; }
     /// The record being written, or null outside a bracket.
     scene_update* current() { return open_ ? &updates_.back() : nullptr; }
     const std::vector<scene_update>& updates() const { return updates_; }
 
+    /// How the last function that reads or writes a file ended: what went wrong, in one line, or nothing.
+    void file_function_ended(std::optional<std::string> failure);
+    /// What is to be said of it, once.
+    std::optional<std::string> take_file_failure();
+
 private:
     std::vector<scene_update> updates_;
     bool open_ = false;
+    std::optional<std::string> file_failure_;
 };
 
 }  // namespace oxhost

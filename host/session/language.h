@@ -4,9 +4,9 @@
 #include <optional>
 #include <string_view>
 
-namespace oxhost {
+#include "base/language.h"
 
-enum class language { russian, english };
+namespace oxhost {
 
 /// "ru" or "en", as the command line spells them.
 std::optional<language> parse_language(std::string_view code);
@@ -22,7 +22,7 @@ void choose_language(std::optional<language> chosen);
 
 /// The one of two texts that the user reads.
 inline std::string_view in_language(std::string_view russian, std::string_view english) {
-    return current_language() == language::russian ? russian : english;
+    return text_in(current_language(), russian, english);
 }
 
 }  // namespace oxhost

@@ -1,8 +1,9 @@
 #pragma once
 /// The host side of string adapters: through them every host function hands out its texts.
 
-#include <string>
 #include <string_view>
+
+#include "base/utf8.h"
 
 namespace oxhost {
 
@@ -14,13 +15,9 @@ struct string_adapter {
 };
 
 /// Hands `text` (UTF-8) to the adapter as wide text; a null handle is ignored.
-void deliver(void* adapter, std::string_view text);
-
-/// UTF-8 inside the host, wide at its border. Malformed input gives U+FFFD.
-std::string to_utf8(std::wstring_view text);
-std::wstring to_wide(std::string_view text);
-
-/// For the pointers that cross the border: null reads as empty.
-std::string to_utf8(const wchar_t* text);
+inline void deliver(void* adapter, std::string_view text) {
+    const auto* target = static_cast<const string_adapter*>(adapter);
+    if (target && target->wide) target->wide(to_wide(text).c_str(), target->context);
+}
 
 }  // namespace oxhost

@@ -37,9 +37,11 @@ std::string open_dialog::caption() const { return read_utf8<&ox::docker_impl::vi
 std::vector<dialog_button> open_dialog::buttons() const {
     std::vector<dialog_button> buttons;
     const std::int32_t count = ox::call<&ox::button_box_impl::count>(button_box_);
+    const std::int32_t preferred = ox::call<&ox::button_box_impl::default_index>(button_box_);
     for (std::int32_t i = 0; i < count; ++i) {
         std::string caption = read_utf8<&ox::button_box_impl::visit_caption>(button_box_, i);
-        const button_role role = role_of(caption);
+        button_role role = role_of(caption);
+        if (role == button_role::other && i == preferred) role = button_role::accept;
         buttons.push_back(
             {std::move(caption), ox::call<&ox::button_box_impl::enabled>(button_box_, i), role});
     }

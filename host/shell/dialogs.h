@@ -19,7 +19,7 @@ enum class button_role { accept, reject, help, other };
 struct dialog_button {
     std::string caption;
     bool enabled;
-    button_role role;  ///< by its caption, which is one of the host's own strings
+    button_role role;  ///< by its caption, one of the host's own strings; of others the default one accepts
 };
 
 /// A dialog on display. Its nodes are those of the bundle's elements and end with it, at the latest

@@ -2,11 +2,11 @@
 
 #include <dlfcn.h>
 
-#include <charconv>
 #include <filesystem>
 #include <fstream>
 #include <map>
 
+#include "base/numbers.h"
 #include "session/language.h"
 
 namespace oxhost::shell {
@@ -27,9 +27,10 @@ std::map<std::uint32_t, std::string> read_strings() {
     std::map<std::uint32_t, std::string> strings;
     std::ifstream file(strings_file());
     for (std::string line; std::getline(file, line);) {
-        std::uint32_t id = 0;
-        const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), id);
-        if (error == std::errc() && *end == '\t') strings[id] = end + 1;
+        const auto tab = line.find('\t');
+        if (tab == line.npos) continue;
+        if (const auto id = parse_whole_number(std::string_view(line).substr(0, tab)))
+            strings[static_cast<std::uint32_t>(*id)] = line.substr(tab + 1);
     }
     return strings;
 }

@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
+#include "base/utf8.h"
 #include "border/call.h"
 #include "border/interfaces/values.h"
-#include "session/string_adapter.h"
 
 namespace oxhost::shell {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "base/utf8.h"
 #include "border/call.h"
-#include "session/string_adapter.h"
 
 namespace oxhost::shell {
 

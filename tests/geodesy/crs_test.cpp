@@ -2,6 +2,7 @@
 
 #include <clocale>
 
+#include "base/numbers.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/transformation.h"
 #include "texts.h"

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "border/host_api/oxk_proj4_d2.h"
-#include "geodesy/projection_files.h"
 #include "session/journal.h"
 #include "session/language.h"
 #include "session/string_adapter.h"
@@ -44,12 +43,14 @@ TEST(Module, FilesTellTheirErrorsToTheHost) {
     const texts::scratch_folder folder;
     const std::wstring good = to_wide(folder / "зона.prj"), none = to_wide(folder / "none/x.pj4");
     ox_pj4_export_esri_prj(utm, good.c_str());
-    EXPECT_EQ(projection_file_error(), "");
+    EXPECT_EQ(journal::instance().take_file_failure(), std::nullopt);
     const auto loaded = delivered([&](void* to) { ox_pj4_import_esri(good.c_str(), to); });
     EXPECT_TRUE(ox_pj4_equal_w(loaded.c_str(), utm));
     ox_pj4_save_simple_w(none.c_str(), utm);
-    EXPECT_NE(projection_file_error().find(folder / "none/x.pj4"), std::string::npos);
+    EXPECT_EQ(journal::instance().take_file_failure().value_or("").rfind(folder / "none/x.pj4: ", 0), 0U);
+    EXPECT_EQ(journal::instance().take_file_failure(), std::nullopt) << "it was taken";
     EXPECT_EQ(delivered([&](void* to) { ox_pj4_load_simple_w(none.c_str(), to); }), L"untouched");
+    EXPECT_EQ(journal::instance().take_file_failure(), folder / "none/x.pj4: no such file");
 }
 
 TEST(Module, ReprojectorWritesTheJournal) {

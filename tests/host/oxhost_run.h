@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "geometry/polyline.h"
+#include "base/line.h"
 
 namespace oxhost_test {
 

@@ -81,6 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
         wrong_input{"ExportIntoNowhere", {"export", "p.gpkg", "gone/o.shp"}, 2, "gone/o.shp"},
         wrong_input{"ExportOverProject", {"export", "p.gpkg", "p.gpkg"}, 2, "p.gpkg"},
         wrong_input{"ExportUnknownFormat", {"export", "p.gpkg", "o.xyz"}, 2, "o.xyz"},
+        wrong_input{"UnknownUtility", {"utilities", "p.gpkg", "--run", "polish"}, 2, "polish"},
         wrong_input{"DescribeNonsense", {"describe", "nonsense"}, 2, "nonsense"}),
     case_name);
 

@@ -1,0 +1,118 @@
+#include "headless/dialog_hands.h"
+
+#include "base/numbers.h"
+
+namespace oxhost::headless {
+
+using shell::node;
+using shell::node_kind;
+
+namespace {
+
+class writer {
+public:
+    void write(node& of) {
+        switch (of.kind()) {
+            case node_kind::groupbox:
+                line(of.state().caption);
+                ++depth_;
+                write_children(of);
+                --depth_;
+                break;
+            case node_kind::dropdown:
+                write_choice(of);
+                break;
+            case node_kind::floating_input:
+                line(of.name() + ": " + number_text(of.state().value) +
+                     (of.state().read_only || !of.state().enabled ? "  (shown)" : ""));
+                break;
+            case node_kind::input:
+                line(of.name() + ": " + of.state().text);
+                break;
+            case node_kind::multiline_output:
+                write_lines(of.state().text);
+                break;
+            case node_kind::button:
+            case node_kind::action_tool:
+                line('<' + of.state().caption + '>' + (of.state().enabled ? "" : "  (off)"));
+                break;
+            case node_kind::outline:
+                write_rows(*of.rows());
+                break;
+            case node_kind::label:
+                if (!captions_a_control(of)) line(of.state().caption);
+                break;
+            default:
+                write_children(of);
+        }
+    }
+    const std::string& text() const { return text_; }
+
+private:
+    void line(const std::string& content) { text_ += std::string(2 * depth_, ' ') + content + '\n'; }
+
+    void write_children(node& of) {
+        for (const auto& child : of.children())
+            if (child->shown()) write(*child);
+    }
+
+    void write_choice(node& of) {
+        constexpr std::size_t most_listed = 12;
+        const auto& state = of.state();
+        line(of.name() + ": " + state.text);
+        std::string items;
+        for (std::size_t i = 0; i < state.items.size() && i < most_listed; ++i)
+            items += (i ? " | " : "") + state.items[i];
+        if (state.items.size() > most_listed) items += " | ... (" + std::to_string(state.items.size()) + ')';
+        ++depth_;
+        if (!items.empty()) line("[" + items + "]");
+        --depth_;
+    }
+
+    void write_lines(const std::string& content) {
+        for (std::size_t at = 0; at < content.size();) {
+            const auto end = std::min(content.find('\n', at), content.size());
+            line(content.substr(at, end - at));
+            at = end + 1;
+        }
+    }
+
+    void write_rows(shell::table_model& rows) {
+        const auto current = rows.current();
+        for (std::size_t c = 0; c < rows.columns().size(); ++c)
+            if (!rows.columns()[c].caption.empty()) line(rows.columns()[c].caption + ':');
+        for (std::uint32_t r = 0; r < rows.row_count(); ++r) {
+            std::string cells = (current == r ? "* " : "  ") + std::to_string(r + 1) + ".";
+            for (std::size_t c = 0; c < rows.columns().size(); ++c)
+                if (!rows.columns()[c].pictures) cells += ' ' + rows.text(r, c);
+            line(cells);
+        }
+    }
+
+    /// Such a label is written with its control. Headings of columns are part of their controls' names.
+    static bool captions_a_control(node& label) {
+        if (!label.parent() || label.parent()->kind() != node_kind::grid_layout) return false;
+        for (const auto& each : label.parent()->children()) {
+            const bool beside = each->row() == label.row() && each->column() > label.column();
+            const bool below =
+                each->column() == label.column() && each->row() > label.row() && label.row() == 0;
+            if ((beside || below) && each->kind() != node_kind::label && each->kind() != node_kind::button &&
+                each->kind() != node_kind::grid_layout)
+                return true;
+        }
+        return false;
+    }
+
+    std::size_t depth_ = 1;
+    std::string text_;
+};
+
+}  // namespace
+
+std::string dialog_text(shell::open_dialog& dialog) {
+    writer out;
+    out.write(dialog.root());
+    return dialog.caption() + '\n' + out.text();
+}
+
+}  // namespace oxhost::headless

@@ -1,0 +1,34 @@
+#pragma once
+/// Section lines before and after as an SVG picture: plate carree of longitude and latitude, shortened in
+/// longitude by the cosine of the middle latitude, with a graticule, captions and a legend.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/language.h"
+#include "base/line.h"
+
+namespace oxhost::map {
+
+/// What became of a line.
+enum class look { changed, kept, failed };
+
+struct mapped_line {
+    std::string caption;
+    look shown_as = look::kept;
+    // WGS 84 longitude and latitude, finite; a line without a place on the map has neither.
+    std::optional<polyline> before;  ///< where that is another line
+    std::optional<polyline> now;
+};
+
+struct sheet {
+    std::string title;
+    std::string note;  ///< at the end of the legend
+    language wanted = language::english;
+    std::vector<mapped_line> lines;
+};
+
+std::string section_map(sheet shown);
+
+}  // namespace oxhost::map

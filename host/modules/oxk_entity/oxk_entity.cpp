@@ -1,6 +1,0 @@
-#include "border/host_api/oxk_entity.h"
-
-#include "project/scene_updates.h"
-
-void ox_scn_begin_update(void* scene) { oxhost::begin_scene_update(static_cast<oxhost::scene*>(scene)); }
-void ox_scn_end_update(void* scene) { oxhost::end_scene_update(static_cast<oxhost::scene*>(scene)); }

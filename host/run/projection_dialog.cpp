@@ -1,0 +1,76 @@
+#include "run/projection_dialog.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "run/failure.h"
+#include "run/plug_in_texts.h"
+#include "run/target.h"
+#include "session/journal.h"
+#include "shell/host_strings.h"
+
+namespace oxhost::run {
+
+using headless::dialog_hands;
+using shell::button_role;
+using shell::node_kind;
+
+namespace {
+
+void fail_on_file_error() {
+    if (const auto error = journal::instance().take_file_failure())
+        throw failure(trouble::unreadable, *error);
+}
+
+}  // namespace
+
+void projection_dialog::open(const std::string& proj4, const std::function<void(dialog_hands&)>& act) {
+    user_.in_dialog(plug_in_text::projection_dialog, [&](dialog_hands& hands) { act(hands); });
+    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
+        if (!proj4.empty()) load(hands, file_of({proj4, proj4, {}}, folder_));
+        hands.click(shell::text_of(shell::host_string::projection));
+        hands.press(button_role::reject);
+    });
+    host_.run(plug_in_text::utility);
+}
+
+std::string projection_dialog::text(dialog_hands& hands) {
+    const auto file = folder_ / "composed.pj4";
+    save(hands, file);
+    return std::string(trimmed(read_file(file).value_or("")));
+}
+
+void projection_dialog::choose_crs(dialog_hands& hands, const std::string& identifier) {
+    user_.in_dialog(plug_in_text::crs_dialog, [&](dialog_hands& asked) {
+        asked.only(node_kind::input).type(identifier);
+        const auto buttons = asked.dialog().buttons();
+        const bool known = std::ranges::any_of(buttons, [](const shell::dialog_button& button) {
+            return button.role == button_role::accept && button.enabled;
+        });
+        if (!known) throw failure(trouble::refused, '"' + identifier + "\": no such projection");
+        asked.press(button_role::accept);
+    });
+    hands.click(plug_in_text::epsg());
+}
+
+void projection_dialog::take_favourite(dialog_hands& hands, std::uint32_t number) {
+    shell::table_model& favourites = *hands.only(node_kind::outline).rows();
+    if (number == 0 || number > favourites.row_count())
+        throw failure(trouble::refused, "no favourite " + std::to_string(number) + " among the " +
+                                            std::to_string(favourites.row_count()));
+    favourites.make_current(number - 1);
+}
+
+void projection_dialog::save(dialog_hands& hands, const std::filesystem::path& file) {
+    user_.answer_file(file);
+    hands.click(plug_in_text::save());
+    fail_on_file_error();
+}
+
+void projection_dialog::load(dialog_hands& hands, const std::filesystem::path& file) {
+    user_.answer_file(file);
+    hands.click(plug_in_text::load());
+    fail_on_file_error();
+}
+
+}  // namespace oxhost::run

@@ -1,0 +1,148 @@
+#include "run/report.h"
+
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+
+#include "geodesy/description.h"
+#include "geodesy/measure.h"
+#include "geodesy/transformation.h"
+#include "map/section_map.h"
+#include "session/language.h"
+
+namespace oxhost::run {
+
+namespace {
+
+using json = nlohmann::ordered_json;
+
+template <class T>
+json or_null(const std::optional<T>& value) {
+    return value ? json(*value) : json();
+}
+
+json or_null(const std::string& text) { return text.empty() ? json() : json(text); }
+
+/// A text that PROJ refuses, or an empty one, measures nothing.
+template <class Measure>
+auto measured(Measure&& measure) -> decltype(measure()) {
+    try {
+        return measure();
+    } catch (const std::invalid_argument&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<double> length(const polyline& line, const std::string& proj4) {
+    if (proj4.empty()) return std::nullopt;
+    return measured([&] { return geodesic_length(line, proj4); });
+}
+
+/// What PROJ did to the line, told by doing it again: where several operations serve a pair of
+/// projections, the place decides.
+json operation_of(const scene_result& result, const polyline& before, const std::string& target) {
+    const auto way = transformation::between(result.source, target);
+    polyline copy = before;
+    way->apply(copy);
+    const operation_info info = way->operation();
+    return {{"name", or_null(info.name)},
+            {"definition", or_null(info.definition)},
+            {"accuracy_m", or_null(info.accuracy)},
+            {"source_shift", or_null(info.source_shift)},
+            {"target_shift", or_null(info.target_shift)}};
+}
+
+json failure_of(const scene_result& result) {
+    if (!result.failure) return {};
+    json told{{"reason", result.failure->reason}, {"vertex", nullptr}, {"x", nullptr}, {"y", nullptr}};
+    if (const auto& failed = result.failure->vertex) {
+        told["vertex"] = failed->vertex;
+        told["x"] = failed->at.x;
+        told["y"] = failed->at.y;
+    }
+    return told;
+}
+
+json scene_json(const record& told, std::size_t i) {
+    const scene_result& result = told.results[i];
+    const scene& subject = *result.subject;
+    const polyline& before = told.before[i];
+    const polyline& after = told.after[i];
+    const bool reprojected = result.came_to == outcome::reprojected;
+    std::optional<line_shift> shift;
+    if (reprojected)
+        shift = measured([&] { return shift_between(before, result.source, after, subject.proj4); });
+    return {{"index", subject.index},
+            {"caption", subject.caption},
+            {"source_proj4", result.source},
+            {"target_proj4", told.into.proj4},
+            {"outcome", name_of(result.came_to)},
+            {"rolled_back", result.rolled_back},
+            {"vertices", before.size()},
+            {"length_before_m", or_null(length(before, result.source))},
+            {"length_after_m", or_null(length(after, subject.proj4))},
+            {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
+            {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
+            {"operation", reprojected ? operation_of(result, before, told.into.proj4) : json()},
+            {"failure", failure_of(result)}};
+}
+
+std::string_view name_of(on_error policy) {
+    return policy == on_error::stop ? "stop" : policy == on_error::skip ? "skip" : "rollback";
+}
+
+/// Where a line lies, if that can be told.
+std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
+    if (proj4.empty() || line.empty()) return std::nullopt;
+    return measured([&] { return to_wgs84(line, proj4); });
+}
+
+map::look look_of(outcome came_to) {
+    if (came_to == outcome::failed) return map::look::failed;
+    return came_to == outcome::reprojected || came_to == outcome::assigned ? map::look::changed
+                                                                           : map::look::kept;
+}
+
+}  // namespace
+
+std::string json_text(const json& value) { return value.dump(2, ' ', false, json::error_handler_t::replace); }
+
+std::string report_text(const record& told) {
+    const proj_versions versions = versions_of_proj();
+    json counts = json::object();
+    for (int i = 0; i <= static_cast<int>(outcome::not_attempted); ++i)
+        counts[std::string(name_of(static_cast<outcome>(i)))] = count(told.results, static_cast<outcome>(i));
+    json scenes = json::array();
+    for (std::size_t i = 0; i < told.results.size(); ++i) scenes.push_back(scene_json(told, i));
+    const json report{{"project", told.wanted.project.string()},
+                      {"target", {{"given", told.into.given}, {"proj4", told.into.proj4}}},
+                      {"dry_run", told.wanted.dry_run},
+                      {"on_error", name_of(told.wanted.policy)},
+                      {"proj", {{"library", versions.library}, {"database", or_null(versions.database)}}},
+                      {"warnings", told.warnings},
+                      {"counts", counts},
+                      {"scenes", std::move(scenes)}};
+    return json_text(report) + '\n';
+}
+
+std::string map_text(const record& told) {
+    const language wanted = current_language();
+    const std::string goal = told.into.none()
+                                 ? std::string(in_language("проекция сброшена", "projection reset"))
+                                 : short_description(told.into.proj4, wanted);
+    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + goal,
+                     .note = {},
+                     .wanted = wanted,
+                     .lines = {}};
+    if (told.wanted.dry_run) sheet.note = in_language("; пробный запуск", "; dry run");
+    for (std::size_t i = 0; i < told.results.size(); ++i) {
+        const scene_result& result = told.results[i];
+        const bool moved = result.came_to == outcome::reprojected || result.came_to == outcome::reset;
+        sheet.lines.push_back({.caption = result.subject->caption,
+                               .shown_as = look_of(result.came_to),
+                               .before = moved ? placed(told.before[i], result.source) : std::nullopt,
+                               .now = placed(told.after[i], result.subject->proj4)});
+    }
+    return map::section_map(std::move(sheet));
+}
+
+}  // namespace oxhost::run
