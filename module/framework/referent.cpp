@@ -22,7 +22,7 @@ void objbase::remove_referrer(custom_pointer referrer) {
     }
     if (ending_) return;
     // A removal from inside a `holds` answer goes straight on to the end, on purpose.
-    if (ended_ || !lives_on()) end();
+    if (ended_ != nullptr || !lives_on()) end();
 }
 
 bool objbase::lives_on() {

@@ -9,7 +9,6 @@ namespace ox::element {
 
 namespace {
 
-using dialog::projection_type;
 using item = toolkit::dropdownex<unsigned int>::item;
 
 constexpr std::int32_t zone_row = 1;

@@ -19,9 +19,8 @@ public:
     callback() = default;
     callback(std::nullptr_t) {}
     template <class F>
-    requires(!std::is_same_v<std::remove_cvref_t<F>, callback> && std::is_invocable_r_v<R, F&, A...>)
-        callback(F&& function)
-        : function_(std::make_shared<std::function<R(A...)>>(std::forward<F>(function))) {}
+    requires(!std::is_same_v<F, callback> && std::is_invocable_r_v<R, F&, A...>) callback(F function)
+        : function_(std::make_shared<std::function<R(A...)>>(std::move(function))) {}
 
     explicit operator bool() const { return function_ && *function_; }
     R operator()(A... arguments) const {
