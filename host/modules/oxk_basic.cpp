@@ -36,12 +36,16 @@ void ox_help_mngr_show_help(int, int found_help_id) {
     });
 }
 
-/// As narrow text: a path's bytes are in the locale's character set, which need not be UTF-8.
+/// As narrow text where the adapter takes it: a path's bytes are in the locale's character set, which need
+/// not be UTF-8.
 void ox_options_get_main_module_path(void* adapter) {
     at_border([&] {
         const auto* target = static_cast<const string_adapter*>(adapter);
+        const auto path = std::filesystem::read_symlink("/proc/self/exe");
         if (target && target->narrow)
-            target->narrow(std::filesystem::read_symlink("/proc/self/exe").c_str(), target->context);
+            target->narrow(path.c_str(), target->context);
+        else
+            deliver(adapter, path.string());
     });
 }
 
