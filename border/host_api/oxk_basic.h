@@ -1,7 +1,7 @@
 #pragma once
 /// Host module of basic services. [ui]
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 /// A string adapter: the host functions that produce a text deliver it through one of the two
 /// callbacks, valid for the call. The caller owns the adapter.

@@ -3,7 +3,7 @@
 /// Older hosts have neither function, so the module never links to them: it looks them up by name
 /// each time it needs them.
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 OX_HOST_API void ox_scn_begin_update(void* scene);
 OX_HOST_API void ox_scn_end_update(void* scene);

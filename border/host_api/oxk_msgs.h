@@ -1,7 +1,7 @@
 #pragma once
 /// Host module of messages to the user. [ui]
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 OX_HOST_API void ox_show_wmessage(const wchar_t* text);
 OX_HOST_API void ox_show_werror(const wchar_t* text);

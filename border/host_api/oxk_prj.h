@@ -1,7 +1,7 @@
 #pragma once
 /// Host module of the current project. [ui] Everything handed out is the host's and never freed here.
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 /// Null while no project is open.
 OX_HOST_API void* ox_prj_get_instance(void);

@@ -2,7 +2,7 @@
 /// Host module of projections: proj4 texts, projection files, favourites, the 2D reprojector. [ui]
 /// In every text and line x is easting or longitude, y is northing or latitude.
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 /// Do both texts define the same coordinate system?
 OX_HOST_API bool ox_pj4_equal_w(const wchar_t* a, const wchar_t* b);

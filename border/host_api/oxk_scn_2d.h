@@ -1,7 +1,7 @@
 #pragma once
 /// Host module of 2D scenes and their profile data. [ui] Scenes and profile data are the host's.
 
-#include "border/host_api/host_api.h"
+#include "border/linkage.h"
 
 OX_HOST_API std::uint32_t ox_scns_2d_get_size(void* collection);
 OX_HOST_API void* ox_scns_2d_get(void* collection, std::uint32_t index);
