@@ -4,9 +4,9 @@
 
 #include "app/command.h"
 #include "base/numbers.h"
-#include "base/utf8.h"
+#include "base/text.h"
+#include "run/plug_in.h"
 #include "run/plug_in_texts.h"
-#include "run/projection_dialog.h"
 
 namespace oxhost::app {
 

@@ -6,9 +6,9 @@
 
 #include "base/files.h"
 #include "project/project.h"
-#include "run/failure.h"
 #include "run/plug_in_texts.h"
-#include "session/faults.h"
+#include "run/request.h"
+#include "session/border.h"
 #include "session/language.h"
 #include "shell/bundle.h"
 

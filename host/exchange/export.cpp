@@ -2,8 +2,8 @@
 
 #include "base/files.h"
 #include "base/text.h"
-#include "exchange/drivers.h"
-#include "exchange/writer.h"
+#include "exchange/gdal.h"
+#include "exchange/writers.h"
 
 namespace oxhost {
 

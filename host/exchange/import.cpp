@@ -4,8 +4,7 @@
 #include <initializer_list>
 
 #include "base/text.h"
-#include "exchange/drivers.h"
-#include "exchange/gdal_guard.h"
+#include "exchange/gdal.h"
 
 namespace oxhost {
 

@@ -6,7 +6,6 @@
 
 #include "base/numbers.h"
 #include "geodesy/crs.h"
-#include "geodesy/known_keys.h"
 #include "geodesy/measure.h"
 #include "geodesy/published_shifts.h"
 #include "geodesy/transformation.h"

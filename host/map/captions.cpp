@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/utf8.h"
+#include "base/text.h"
 
 namespace oxhost::map {
 

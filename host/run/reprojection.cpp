@@ -1,8 +1,5 @@
 #include "run/reprojection.h"
 
-#include "run/advice.h"
-#include "run/failure.h"
-#include "run/selection.h"
 #include "session/messages.h"
 
 namespace oxhost::run {

@@ -4,14 +4,65 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iostream>
+#include <ostream>
 #include <string_view>
 
 #include "session/language.h"
-#include "session/progress_line.h"
 
 namespace oxhost {
+
 namespace {
+
+/// Whole ones of `parts` that are done; a fraction that is no number counts as nothing. A hair is added so
+/// that 3 / 10 of the work are three tenths.
+int parts_done(double fraction, int parts) {
+    if (!(fraction > 0)) return 0;
+    return static_cast<int>(std::floor(std::min(fraction, 1.0) * parts + 1e-9));
+}
+
+/// One line of a terminal, drawn over itself and wiped at the end.
+class progress_bar final : public progress_display {
+public:
+    explicit progress_bar(std::ostream& out) : out_(out) {}  // `out` outlives the bar
+    ~progress_bar() override {
+        if (percent_ >= 0) out_ << "\r\x1b[K" << std::flush;
+    }
+    progress_bar(const progress_bar&) = delete;
+    progress_bar& operator=(const progress_bar&) = delete;
+
+    void report(double fraction) override {
+        constexpr std::size_t width = 40;
+        const int percent = parts_done(fraction, 100);
+        if (percent == percent_) return;
+        percent_ = percent;
+        const std::size_t filled = static_cast<std::size_t>(percent) * width / 100;
+        out_ << "\r[" << std::string(filled, '#') << std::string(width - filled, '.') << "] " << percent
+             << " %" << std::flush;
+    }
+
+private:
+    std::ostream& out_;
+    int percent_ = -1;  // on display
+};
+
+/// A line whenever another tenth of the work is done.
+class progress_lines final : public progress_display {
+public:
+    explicit progress_lines(std::ostream& out) : out_(out) {}  // `out` outlives the lines
+
+    void report(double fraction) override {
+        const int tenths = parts_done(fraction, 10);
+        if (tenths <= tenths_) return;
+        tenths_ = tenths;
+        out_ << tenths * 10 << " %" << std::endl;
+    }
+
+private:
+    std::ostream& out_;
+    int tenths_ = 0;  // reported
+};
 
 /// Nothing for an answer that is neither.
 std::optional<bool> parse_answer(std::string_view line) {

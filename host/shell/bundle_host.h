@@ -4,12 +4,39 @@
 ///     bundle_host host(file, user);             // `user` acts in the dialogs
 ///     host.run("oxk_scn2d_prf_reproj");         // returns when the utility's dialog is closed
 
+#include <vector>
+
+#include "border/interfaces/lifetime.h"
+#include "border/interfaces/services.h"
+#include "border/polymorphic.h"
 #include "shell/bundle.h"
-#include "shell/bundle_context.h"
 #include "shell/dialogs.h"
 #include "shell/service_registry.h"
 
 namespace oxhost::shell {
+
+/// Lives as long as its owner keeps it, whoever refers to it: the bundle's objects register here and
+/// must be gone before it goes. [ui]
+class bundle_context final : public ox::polymorphic<ox::bundle_context_impl>,
+                             public ox::polymorphic<ox::referent_impl> {
+public:
+    bundle_context() = default;
+    ~bundle_context();
+
+    void offer(ox::custom_pointer registry) { registry_ = registry; }
+
+    ox::custom_pointer pointer();
+    std::size_t referrer_count() const { return referrers_.size(); }
+
+    void visit_registry(ox::custom_pointer registry_visitor) override;
+    std::size_t add_referrer(ox::custom_pointer referrer) override;
+    void remove_referrer(ox::custom_pointer referrer) override;
+    ox::custom_pointer self() override;
+
+private:
+    ox::custom_pointer registry_{};
+    std::vector<ox::custom_pointer> referrers_;
+};
 
 class bundle_host {
 public:

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "border/call.h"
 
 namespace oxhost::shell {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "shell/read_utf8.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "border/interfaces/outlines.h"
-#include "shell/picture.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 

@@ -6,7 +6,7 @@
 #include "border/host_api/oxk_proj4_d2.h"
 #include "session/journal.h"
 #include "session/language.h"
-#include "session/string_adapter.h"
+#include "session/border.h"
 #include "texts.h"
 
 namespace oxhost {

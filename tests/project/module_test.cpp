@@ -7,7 +7,7 @@
 #include "border/host_api/oxk_prj.h"
 #include "border/host_api/oxk_scn_2d.h"
 #include "session/journal.h"
-#include "session/string_adapter.h"
+#include "session/border.h"
 #include "workspace.h"
 
 namespace project_test {
