@@ -86,9 +86,9 @@ public:
             for (const auto& [dx, dy] : {cell{1, 0}, {0, 1}, {1, 1}, {1, -1}})
                 if (const cell next{at.first + dx, at.second + dy}; parent_.contains(next)) join(at, next);
     }
-    cell root(cell at) {
-        while (parent_.at(at) != at) at = parent_[at] = parent_.at(parent_.at(at));
-        return at;
+    cell root(cell member) {
+        while (parent_.at(member) != member) member = parent_[member] = parent_.at(parent_.at(member));
+        return member;
     }
 
 private:

@@ -21,14 +21,14 @@ void fail_on_file_error() {
         throw failure(trouble::unreadable, *error);
 }
 
-void set_target(dialog_hands& hands, headless::scripted_user& user, const target& into,
+void set_target(dialog_hands& hands, headless::scripted_user& user, const target& goal,
                 const temporary_folder& folder) {
-    if (into.none()) {
+    if (goal.none()) {
         shell::node& button = hands.menu_button();
         const std::size_t entries = hands.menu_entries(button).size();
         return hands.choose_entry(button, entries - 1);  // the last one is always "not defined"
     }
-    user.answer_file(file_of(into, folder));
+    user.answer_file(file_of(goal, folder));
     hands.click(plug_in_text::load());
     fail_on_file_error();
 }
@@ -53,12 +53,12 @@ void check_scenes(dialog_hands& hands, const std::vector<scene*>& listed, const 
 
 }  // namespace
 
-void reprojection_utility::run(const target& into, const std::vector<scene*>& listed,
+void reprojection_utility::run(const target& goal, const std::vector<scene*>& listed,
                                std::vector<scene*> wanted,
                                const std::function<std::vector<scene*>()>& again) {
     const temporary_folder folder;
     user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
-        set_target(hands, user_, into, folder);
+        set_target(hands, user_, goal, folder);
         for (; !wanted.empty(); wanted = again()) {
             check_scenes(hands, listed, wanted);
             if (hands.press(button_role::accept)) return;

@@ -24,7 +24,7 @@ public:
     /// presses apply; then checks and applies what `again` answers, until that is nothing, and closes the
     /// dialog. Messages and questions go through `messages`, changes to scenes through `journal`.
     /// `listed` are the scenes that the dialog must show, in its order.
-    void run(const target& into, const std::vector<scene*>& listed, std::vector<scene*> wanted,
+    void run(const target& goal, const std::vector<scene*>& listed, std::vector<scene*> wanted,
              const std::function<std::vector<scene*>()>& again);
 
 private:

@@ -36,7 +36,7 @@ struct order {
 /// All that reports and maps tell of.
 struct record {
     const order& wanted;
-    const target& into;
+    const target& goal;
     const std::vector<std::string>& warnings;
     const std::vector<scene_result>& results;
     // As many as results, when lines are kept:
@@ -69,7 +69,7 @@ private:
     std::vector<polyline> kept_lines();
 
     order order_;
-    target into_;
+    target goal_;
     std::unique_ptr<project> project_;
     std::vector<scene*> scenes_;
     reprojection_utility utility_;

@@ -82,9 +82,9 @@ console console::standard() {
 
 void console_messages::show(message_kind kind, const std::string& text) {
     if (kind == message_kind::error) {
-        on_.error << text << std::endl;
+        console_.error << text << std::endl;
     } else if (!options_.quiet) {
-        on_.out << text << std::endl;
+        console_.out << text << std::endl;
     }
 }
 
@@ -92,30 +92,30 @@ std::optional<bool> console_messages::ask(const std::string& text) {
     if (options_.questions != answering::ask) {
         const bool yes = options_.questions == answering::yes;
         if (!options_.quiet)
-            on_.out << text << ' ' << (yes ? in_language("да", "yes") : in_language("нет", "no"))
-                    << std::endl;
+            console_.out << text << ' ' << (yes ? in_language("да", "yes") : in_language("нет", "no"))
+                         << std::endl;
         return yes;
     }
-    if (on_.answers) return ask_terminal(text);
-    on_.error << text << '\n'
-              << in_language("Спросить некого: ответьте заранее с --yes или --no.",
-                             "There is nobody to ask: answer beforehand with --yes or --no.")
-              << std::endl;
+    if (console_.answers) return ask_terminal(text);
+    console_.error << text << '\n'
+                   << in_language("Спросить некого: ответьте заранее с --yes или --no.",
+                                  "There is nobody to ask: answer beforehand with --yes or --no.")
+                   << std::endl;
     return {};
 }
 
 std::optional<bool> console_messages::ask_terminal(const std::string& text) {
     for (std::string line;;) {
-        on_.out << text << in_language(" [д/Н] ", " [y/N] ") << std::flush;
-        if (!std::getline(on_.in, line)) return {};
+        console_.out << text << in_language(" [д/Н] ", " [y/N] ") << std::flush;
+        if (!std::getline(console_.in, line)) return {};
         if (const auto answer = parse_answer(line)) return answer;
     }
 }
 
 std::unique_ptr<progress_display> console_messages::open_progress() {
     if (options_.quiet) return nullptr;
-    if (on_.draws_a_bar) return std::make_unique<progress_bar>(on_.out);
-    return std::make_unique<progress_lines>(on_.out);
+    if (console_.draws_a_bar) return std::make_unique<progress_bar>(console_.out);
+    return std::make_unique<progress_lines>(console_.out);
 }
 
 }  // namespace oxhost

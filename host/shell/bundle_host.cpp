@@ -52,8 +52,8 @@ bundle_host::bundle_host(const std::filesystem::path& file, dialog_user& user)
     factory_keys_ = std::move(found.keys);
 }
 
-std::string bundle_host::caption(const offered_utility& of) const {
-    return read_utf8<&ox::utility_impl::visit_caption>(of.utility);
+std::string bundle_host::caption(const offered_utility& offered) const {
+    return read_utf8<&ox::utility_impl::visit_caption>(offered.utility);
 }
 
 void bundle_host::run(std::string_view utility_id) {

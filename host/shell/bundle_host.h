@@ -48,7 +48,7 @@ public:
     const std::vector<offered_utility>& utilities() const { return registry_.utilities(); }
     /// Keys of the bundle's factories, in its order.
     const std::vector<std::string>& factory_keys() const { return factory_keys_; }
-    std::string caption(const offered_utility& utility) const;
+    std::string caption(const offered_utility& offered) const;
 
     /// Throws bundle_error when the bundle has no such utility, and what the user threw.
     void run(std::string_view utility_id);
