@@ -1,8 +1,8 @@
 #pragma once
 /// One bundle at work: loaded, its services created and held, its dialogs served. [ui]
 ///
-///     bundle_host host(file, user);             // `user` acts in the dialogs
-///     host.run("oxk_scn2d_prf_reproj");         // returns when the utility's dialog is closed
+///     bundle_host host(file, user);                // `user` acts in the dialogs
+///     host.run(host.utilities().front().id);       // returns when the utility's dialog is closed
 
 #include <vector>
 
@@ -15,6 +15,7 @@
 
 namespace oxhost::shell {
 
+/// What a bundle is created with: the way to the registry, and the owner of its objects.
 /// Lives as long as its owner keeps it, whoever refers to it: the bundle's objects register here and
 /// must be gone before it goes. [ui]
 class bundle_context final : public ox::polymorphic<ox::bundle_context_impl>,
