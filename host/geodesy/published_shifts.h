@@ -24,7 +24,7 @@ struct published_shift {
 /// From the datum of a CRS, in the order in which PROJ prefers them for the CRS's area of use.
 std::vector<published_shift> published_shifts(const PJ* crs_object);
 
-/// From every datum on this ellipsoid.
+/// From every datum on this ellipsoid; lent until the next call.
 const std::vector<published_shift>& published_shifts(const ellipsoid& shape);
 
 /// The one that PROJ itself takes at `place` (longitude, latitude): of those that cover the place the most

@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "border/host_api/oxk_proj4_d2.h"
+#include "session/border.h"
 #include "session/journal.h"
 #include "session/language.h"
-#include "session/border.h"
 #include "texts.h"
 
 namespace oxhost {

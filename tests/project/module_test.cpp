@@ -6,8 +6,8 @@
 #include "border/host_api/oxk_prg.h"
 #include "border/host_api/oxk_prj.h"
 #include "border/host_api/oxk_scn_2d.h"
-#include "session/journal.h"
 #include "session/border.h"
+#include "session/journal.h"
 #include "workspace.h"
 
 namespace project_test {
