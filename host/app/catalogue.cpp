@@ -5,10 +5,10 @@
 
 #include "app/command.h"
 #include "base/numbers.h"
-#include "base/utf8.h"
+#include "base/text.h"
 #include "catalogue/index.h"
+#include "run/plug_in.h"
 #include "run/plug_in_texts.h"
-#include "run/projection_dialog.h"
 
 namespace oxhost::app {
 

@@ -6,9 +6,9 @@
 
 #include "base/files.h"
 #include "project/project.h"
-#include "run/failure.h"
 #include "run/plug_in_texts.h"
-#include "session/faults.h"
+#include "run/request.h"
+#include "session/border.h"
 #include "session/language.h"
 #include "shell/bundle.h"
 
@@ -59,19 +59,19 @@ void add_language(CLI::App& subcommand) {
         ->check(CLI::IsMember({"ru", "en"}));
 }
 
-void add_answers(CLI::App& subcommand, console_options& into) {
+void add_answers(CLI::App& subcommand, console_options& result) {
     auto* yes = subcommand.add_flag_callback(
-        "--yes", [&into] { into.questions = answering::yes; }, "Answer questions with yes");
+        "--yes", [&result] { result.questions = answering::yes; }, "Answer questions with yes");
     subcommand
         .add_flag_callback(
-            "--no", [&into] { into.questions = answering::no; }, "Answer questions with no")
+            "--no", [&result] { result.questions = answering::no; }, "Answer questions with no")
         ->excludes(yes);
 }
 
-void add_bundle(CLI::App& subcommand, fs::path& into) {
-    into = fs::read_symlink("/proc/self/exe").parent_path() / default_bundle;
+void add_bundle(CLI::App& subcommand, fs::path& result) {
+    result = fs::read_symlink("/proc/self/exe").parent_path() / default_bundle;
     subcommand
-        .add_option("--bundle", into,
+        .add_option("--bundle", result,
                     "The plug-in (default: " + std::string(default_bundle) + " beside this program)")
         ->type_name("FILE");
 }

@@ -49,14 +49,14 @@ void add_utilities(CLI::App& app, action& chosen);
 /// What every TARGET option says in the help.
 inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
 
-// Options of several commands. `into` outlives the parsing.
+// Options of several commands. `result` outlives the parsing.
 /// `--verbose`, of the program and of each subcommand: exceptions that end at a border are told.
 void add_verbose(CLI::App& app);
 /// `--lang ru|en`; takes effect while the command line is read, as `--verbose` does, which comes along.
 void add_language(CLI::App& subcommand);
 /// `--yes` and `--no`, of which one may be given.
-void add_answers(CLI::App& subcommand, console_options& into);
+void add_answers(CLI::App& subcommand, console_options& result);
 /// `--bundle FILE`, the plug-in, by default beside the program.
-void add_bundle(CLI::App& subcommand, std::filesystem::path& into);
+void add_bundle(CLI::App& subcommand, std::filesystem::path& result);
 
 }  // namespace oxhost::app

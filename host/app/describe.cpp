@@ -5,7 +5,7 @@
 #include "geodesy/crs_import.h"
 #include "geodesy/description.h"
 #include "geodesy/warnings.h"
-#include "run/target.h"
+#include "run/request.h"
 #include "session/language.h"
 
 namespace oxhost::app {

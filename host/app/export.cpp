@@ -5,8 +5,7 @@
 #include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/transformation.h"
-#include "run/selection.h"
-#include "run/target.h"
+#include "run/request.h"
 #include "session/language.h"
 
 namespace oxhost::app {
@@ -21,7 +20,7 @@ struct export_options {
 };
 
 /// Brings a scene into the target, or ends the command with the scene's name.
-void transform(new_scene& copy, const scene& original, const run::target& into) {
+void transform(new_scene& copy, const scene& original, const run::target& goal) {
     const auto fail = [&](const std::string& reason) {
         throw failure(exit_code::scene_failed,
                       original.owner->path().string() + ": " + name_of(original) + ": " + reason);
@@ -29,20 +28,20 @@ void transform(new_scene& copy, const scene& original, const run::target& into) 
     if (!copy.line || copy.line->empty()) return;
     if (copy.proj4.empty()) fail("has no projection to transform from");
     try {
-        const auto way = transformation::between(copy.proj4, into.proj4);
+        const auto way = transformation::between(copy.proj4, goal.proj4);
         if (way->is_needed())
             if (const auto failed = way->apply(*copy.line))
                 fail("vertex " + std::to_string(failed->vertex) + ": " + failed->reason);
     } catch (const std::invalid_argument& refused) {
         fail(refused.what());
     }
-    copy.proj4 = into.proj4;
+    copy.proj4 = goal.proj4;
 }
 
 exit_code export_project(const export_options& options) try {
-    std::optional<run::target> into;
-    if (options.to) into = run::read_target(*options.to);
-    if (into && into->none())
+    std::optional<run::target> goal;
+    if (options.to) goal = run::read_target(*options.to);
+    if (goal && goal->none())
         throw failure(exit_code::nothing_done, "export needs a projection to transform to, not \"none\"");
     const auto opened = run::open_project(options.project, open_mode::read_only);
     check_writable(options.out);
@@ -52,10 +51,10 @@ exit_code export_project(const export_options& options) try {
         if (!original) return std::nullopt;
         new_scene copy{original->caption, original->profile, original->proj4, std::nullopt};
         if (original->line) copy.line = opened->read_line(*original);
-        if (into) transform(copy, *original, *into);
+        if (goal) transform(copy, *original, *goal);
         return copy;
     };
-    load_exchange().export_lines(options.out, options.project, into ? into->proj4 : "", next_scene);
+    load_exchange().export_lines(options.out, options.project, goal ? goal->proj4 : "", next_scene);
     if (!options.quiet)
         std::cout << options.out.string() << ": " << opened->size() << in_language(" сцен", " scenes")
                   << '\n';

@@ -5,8 +5,7 @@
 #include "base/files.h"
 #include "exchange/exchange.h"
 #include "geodesy/crs_import.h"
-#include "run/selection.h"
-#include "run/target.h"
+#include "run/request.h"
 #include "session/language.h"
 
 namespace oxhost::app {

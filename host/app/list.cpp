@@ -4,9 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include "app/command.h"
-#include "base/utf8.h"
+#include "base/text.h"
 #include "run/report.h"
-#include "run/selection.h"
+#include "run/request.h"
 #include "session/language.h"
 
 namespace oxhost::app {

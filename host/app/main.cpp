@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "session/faults.h"
+#include "session/border.h"
 
 namespace {
 

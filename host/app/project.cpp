@@ -3,9 +3,9 @@
 
 #include "app/command.h"
 #include "base/files.h"
+#include "run/plug_in.h"
 #include "run/plug_in_texts.h"
-#include "run/projection_dialog.h"
-#include "run/target.h"
+#include "run/request.h"
 
 namespace oxhost::app {
 

@@ -4,7 +4,7 @@
 #include "app/command.h"
 #include "headless/dialog_hands.h"
 #include "run/outcome.h"
-#include "run/selection.h"
+#include "run/request.h"
 #include "shell/bundle_host.h"
 
 namespace oxhost::app {

@@ -1,7 +1,9 @@
 #pragma once
-/// Small things that are done to texts, whatever the locale.
+/// Texts: UTF-8 inside the host and wide at its border, and small things that are done to them whatever the
+/// locale. Malformed input gives U+FFFD.
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -30,5 +32,14 @@ inline void append_item(std::string& list, std::string_view item, std::string_vi
     if (!list.empty()) list += separator;
     list += item;
 }
+
+std::string to_utf8(std::wstring_view text);
+std::wstring to_wide(std::string_view text);
+
+/// For the pointers that cross the border: null reads as empty.
+std::string to_utf8(const wchar_t* text);
+
+/// Characters of a well-formed text, as columns and pictures need their number.
+std::size_t character_count(std::string_view text);
 
 }  // namespace oxhost

@@ -2,8 +2,8 @@
 
 #include "base/files.h"
 #include "base/text.h"
-#include "exchange/drivers.h"
-#include "exchange/writer.h"
+#include "exchange/gdal.h"
+#include "exchange/writers.h"
 
 namespace oxhost {
 
@@ -23,9 +23,9 @@ format format_of(const fs::path& out) {
     throw exchange_error(out.string() + ": unknown format; write .geojson, .gpkg or .shp");
 }
 
-std::unique_ptr<line_writer> open_writer(format as, const fs::path& out, const fs::path& file,
+std::unique_ptr<line_writer> open_writer(format kind, const fs::path& out, const fs::path& file,
                                          const std::string& crs) {
-    switch (as) {
+    switch (kind) {
         case format::geojson:
             return write_geojson(out, file);
         case format::geopackage:
@@ -38,8 +38,8 @@ std::unique_ptr<line_writer> open_writer(format as, const fs::path& out, const f
 
 /// Moves what was written in a folder beside the output into its place. A shapefile is several files of one
 /// stem: older ones that the new set may lack go first.
-void deliver(const temporary_folder& made, const fs::path& out, format as) {
-    if (as == format::shapefile)
+void deliver(const temporary_folder& made, const fs::path& out, format kind) {
+    if (kind == format::shapefile)
         for (const char* side : {".prj", ".cpg", ".qpj", ".qix", ".sbn", ".sbx"})
             fs::remove(fs::path(out).replace_extension(side));
     std::vector<fs::path> files;
@@ -62,13 +62,13 @@ void check_output(const fs::path& out, const fs::path& project_file) {
 
 void export_to_file(const fs::path& out, const fs::path& project_file, const std::string& crs,
                     const std::function<std::optional<new_scene>()>& next) try {
-    const format as = format_of(out);
+    const format kind = format_of(out);
     check_output(out, project_file);
     const temporary_folder workshop(fs::absolute(out).parent_path() / ".oxhost-export-XXXXXX");
-    const auto writer = open_writer(as, out, workshop / out.filename(), crs);
+    const auto writer = open_writer(kind, out, workshop / out.filename(), crs);
     while (const std::optional<new_scene> scene = next()) writer->write(*scene);
     writer->finish();
-    deliver(workshop, out, as);
+    deliver(workshop, out, kind);
 } catch (const file_error& e) {
     throw exchange_error(out.string() + ": cannot be written into its folder: " + e.what());
 } catch (const fs::filesystem_error& e) {

@@ -4,8 +4,7 @@
 #include <initializer_list>
 
 #include "base/text.h"
-#include "exchange/drivers.h"
-#include "exchange/gdal_guard.h"
+#include "exchange/gdal.h"
 
 namespace oxhost {
 
@@ -114,8 +113,9 @@ private:
     polyline points_of(const OGRLineString& line, const std::string& caption) const {
         polyline points(static_cast<std::size_t>(line.getNumPoints()));
         for (std::size_t i = 0; i < points.size(); ++i) {
-            const int at = static_cast<int>(i);
-            points[i] = swap_ ? point{line.getY(at), line.getX(at)} : point{line.getX(at), line.getY(at)};
+            const int vertex = static_cast<int>(i);
+            points[i] = swap_ ? point{line.getY(vertex), line.getX(vertex)}
+                              : point{line.getX(vertex), line.getY(vertex)};
             if (!is_finite(points[i]))
                 throw exchange_error("vertex " + std::to_string(i) + " of \"" + caption +
                                      "\" is not a number");

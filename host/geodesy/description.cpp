@@ -12,7 +12,8 @@ namespace {
 
 class describer {
 public:
-    describer(const crs& system, language in) : system_(system), tokens_(system.tokens), in_(in) {}
+    describer(const crs& system, language wanted)
+        : system_(system), tokens_(system.tokens), wanted_(wanted) {}
 
     crs_facts facts() const { return {projection(), parameters(), ellipsoid_text(), datum(), units()}; }
 
@@ -37,7 +38,7 @@ public:
 
 private:
     std::string say(std::string_view english, std::string_view russian) const {
-        return std::string(in_ == language::russian ? russian : english);
+        return std::string(wanted_ == language::russian ? russian : english);
     }
 
     double scale() const { return tokens_.number("k_0").value_or(tokens_.number("k").value_or(1)); }
@@ -52,7 +53,7 @@ private:
             return say("Gauss-Krüger, zone ", "Гаусса – Крюгера, зона ") + std::to_string(*zone);
         }
         if (key.empty()) return tokens_.value("init").value_or("");
-        return projection_name(key, in_);
+        return projection_name(key, wanted_);
     }
 
     std::string parameters() const {
@@ -61,7 +62,7 @@ private:
             const auto value = tokens_.value(words.key);
             if (!value || (words.key == "k" && tokens_.has("k_0"))) continue;
             if (!text.empty()) text += ", ";
-            text += std::string(word(words, in_)) + ' ' + *value;
+            text += std::string(word(words, wanted_)) + ' ' + *value;
             if (angle) text += "°";
             if (length) text += say(" m", " м");
         }
@@ -70,7 +71,7 @@ private:
 
     std::string ellipsoid_name() const {
         if (const auto key = tokens_.value("ellps")) {
-            if (const term* known = ellipsoid_term(*key)) return std::string(word(*known, in_));
+            if (const term* known = ellipsoid_term(*key)) return std::string(word(*known, wanted_));
         }
         const std::string name = ellipsoid_of(system_.object.get()).name;
         return name.empty() || name == "unknown" ? say("own ellipsoid", "свой эллипсоид") : name;
@@ -102,22 +103,22 @@ private:
     std::string units() const {
         if (system_.geographic) return say("degrees", "градусы");
         const std::string key = tokens_.value("units").value_or("m");
-        if (system_.metres_per_unit == 1) return std::string(word(*unit_term("m"), in_));
-        if (const term* known = unit_term(key)) return std::string(word(*known, in_));
+        if (system_.metres_per_unit == 1) return std::string(word(*unit_term("m"), wanted_));
+        if (const term* known = unit_term(key)) return std::string(word(*known, wanted_));
         return say("units of ", "единицы по ") + number_text(system_.metres_per_unit) + say(" m", " м");
     }
 
     const crs& system_;
     const proj4_text& tokens_;
-    language in_;
+    language wanted_;
 };
 
-std::string undefined(language in) {
-    return in == language::russian ? "Проекция не определена" : "Projection is not defined";
+std::string undefined(language wanted) {
+    return wanted == language::russian ? "Проекция не определена" : "Projection is not defined";
 }
 
-std::string refused(const crs& system, language in) {
-    return (in == language::russian ? "Неверная проекция: " : "Invalid projection: ") + system.error;
+std::string refused(const crs& system, language wanted) {
+    return (wanted == language::russian ? "Неверная проекция: " : "Invalid projection: ") + system.error;
 }
 
 void add_line(std::string& text, std::string_view label, const std::string& value) {
@@ -128,17 +129,17 @@ void add_line(std::string& text, std::string_view label, const std::string& valu
 
 }  // namespace
 
-crs_facts facts_of(std::string_view proj4, language in) {
+crs_facts facts_of(std::string_view proj4, language wanted) {
     const auto system = crs_of(proj4);
-    return system->valid() ? describer(*system, in).facts() : crs_facts{};
+    return system->valid() ? describer(*system, wanted).facts() : crs_facts{};
 }
 
-std::string describe(std::string_view proj4, language in) {
+std::string describe(std::string_view proj4, language wanted) {
     const auto system = crs_of(proj4);
-    if (system->tokens.empty()) return undefined(in);
-    if (!system->valid()) return refused(*system, in) + '\n' + system->text;
-    const crs_facts facts = describer(*system, in).facts();
-    const bool russian = in == language::russian;
+    if (system->tokens.empty()) return undefined(wanted);
+    if (!system->valid()) return refused(*system, wanted) + '\n' + system->text;
+    const crs_facts facts = describer(*system, wanted).facts();
+    const bool russian = wanted == language::russian;
     std::string text;
     add_line(text, russian ? "Проекция" : "Projection", facts.projection);
     add_line(text, russian ? "Параметры" : "Parameters", facts.parameters);
@@ -148,10 +149,10 @@ std::string describe(std::string_view proj4, language in) {
     return text;
 }
 
-std::string short_description(std::string_view proj4, language in) {
+std::string short_description(std::string_view proj4, language wanted) {
     const auto system = crs_of(proj4);
-    if (system->tokens.empty()) return undefined(in);
-    return system->valid() ? describer(*system, in).brief() : refused(*system, in);
+    if (system->tokens.empty()) return undefined(wanted);
+    return system->valid() ? describer(*system, wanted).brief() : refused(*system, wanted);
 }
 
 }  // namespace oxhost

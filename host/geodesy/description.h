@@ -16,12 +16,12 @@ struct crs_facts {
     std::string datum;       ///< named datum, shift parameters, or that there is none
     std::string units;
 };
-crs_facts facts_of(std::string_view proj4, language in);
+crs_facts facts_of(std::string_view proj4, language wanted);
 
 /// Several lines. An empty text is described as not defined, a refused one with PROJ's reason.
-std::string describe(std::string_view proj4, language in);
+std::string describe(std::string_view proj4, language wanted);
 
 /// One line, for the rows of lists.
-std::string short_description(std::string_view proj4, language in);
+std::string short_description(std::string_view proj4, language wanted);
 
 }  // namespace oxhost

@@ -91,8 +91,8 @@ const term* ellipsoid_term(std::string_view key) { return find(ellipsoids, key);
 const term* unit_term(std::string_view key) { return find(units, key); }
 std::span<const parameter_term> parameter_terms() { return parameters; }
 
-std::string projection_name(std::string_view key, language in) {
-    if (const term* known = projection_term(key)) return std::string(word(*known, in));
+std::string projection_name(std::string_view key, language wanted) {
+    if (const term* known = projection_term(key)) return std::string(word(*known, wanted));
     for (const PJ_OPERATIONS* operation = proj_list_operations(); operation->id; ++operation) {
         if (key != operation->id) continue;
         const std::string_view text = *operation->descr;

@@ -15,8 +15,8 @@ struct term {
     std::string_view russian;
 };
 
-inline std::string_view word(const term& from, language in) {
-    return in == language::russian ? from.russian : from.english;
+inline std::string_view word(const term& known, language wanted) {
+    return wanted == language::russian ? known.russian : known.english;
 }
 
 /// Null for a key that has no words here.
@@ -33,6 +33,6 @@ struct parameter_term {
 std::span<const parameter_term> parameter_terms();
 
 /// The name in the wanted language, else PROJ's own English name, else the key.
-std::string projection_name(std::string_view key, language in);
+std::string projection_name(std::string_view key, language wanted);
 
 }  // namespace oxhost

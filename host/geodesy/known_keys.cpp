@@ -1,4 +1,4 @@
-#include "geodesy/known_keys.h"
+#include "geodesy/proj4_text.h"
 
 #include <proj.h>
 

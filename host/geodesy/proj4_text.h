@@ -13,6 +13,9 @@ namespace oxhost {
 /// dX dY dZ in metres, rX rY rZ in arc-seconds, scale difference in parts per million.
 using towgs84 = std::vector<double>;
 
+/// Does PROJ read the key: one of general use, or a parameter of any of its projections?
+bool is_known_key(std::string_view key);
+
 class proj4_text {
 public:
     struct token {

@@ -66,9 +66,9 @@ std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
 
 }  // namespace
 
-bool published_shift::covers(point at) const {
-    if (!(at.y >= south && at.y <= north)) return false;
-    const double longitude = std::remainder(at.x, 360);
+bool published_shift::covers(point place) const {
+    if (!(place.y >= south && place.y <= north)) return false;
+    const double longitude = std::remainder(place.x, 360);
     return west <= east ? longitude >= west && longitude <= east : longitude >= west || longitude <= east;
 }
 
@@ -105,11 +105,11 @@ const std::vector<published_shift>& published_shifts(const ellipsoid& shape) {
     return kept.of(number_text(shape.a), number_text(shape.rf), [&] { return shifts_from_all(shape); });
 }
 
-const published_shift* best_shift(const std::vector<published_shift>& shifts, point at) {
+const published_shift* best_shift(const std::vector<published_shift>& shifts, point place) {
     const published_shift* best = nullptr;
     const auto error = [](const published_shift& shift) { return shift.accuracy.value_or(HUGE_VAL); };
     for (const auto& shift : shifts) {
-        if (shift.covers(at) && (!best || error(shift) < error(*best))) best = &shift;
+        if (shift.covers(place) && (!best || error(shift) < error(*best))) best = &shift;
     }
     return best || shifts.empty() ? best : &shifts.front();
 }

@@ -24,12 +24,12 @@ struct published_shift {
 /// From the datum of a CRS, in the order in which PROJ prefers them for the CRS's area of use.
 std::vector<published_shift> published_shifts(const PJ* crs_object);
 
-/// From every datum on this ellipsoid.
+/// From every datum on this ellipsoid; lent until the next call.
 const std::vector<published_shift>& published_shifts(const ellipsoid& shape);
 
-/// The one that PROJ itself takes at `at` (longitude, latitude): of those that cover the place the most
+/// The one that PROJ itself takes at `place` (longitude, latitude): of those that cover the place the most
 /// accurate; the first of all when none covers it.
-const published_shift* best_shift(const std::vector<published_shift>& shifts, point at);
+const published_shift* best_shift(const std::vector<published_shift>& shifts, point place);
 
 /// Same numbers as published, to the last digit that a text of rounded parameters may lose.
 bool same_shift(const towgs84& a, const towgs84& b);

@@ -6,7 +6,6 @@
 
 #include "base/numbers.h"
 #include "geodesy/crs.h"
-#include "geodesy/known_keys.h"
 #include "geodesy/measure.h"
 #include "geodesy/published_shifts.h"
 #include "geodesy/transformation.h"
@@ -16,7 +15,7 @@ namespace {
 
 class advisor {
 public:
-    explicit advisor(language in) : russian_(in == language::russian) {}
+    explicit advisor(language wanted) : russian_(wanted == language::russian) {}
 
     std::string say(const std::string& english, const std::string& russian) const {
         return russian_ ? russian : english;
@@ -54,8 +53,8 @@ public:
                              std::vector<std::string>& lines) const {
         const ellipsoid shape = ellipsoid_of(system.object.get());
         if (has_datum(system) || is_wgs84_like(shape)) return;
-        const point at = near.value_or(origin(system));
-        const auto metres = missing_shift(system, shape, at);
+        const point place = near.value_or(origin(system));
+        const auto metres = missing_shift(system, shape, place);
         if (!metres) {
             lines.push_back(say("no datum shift: positions are off by an unknown amount",
                                 "нет перехода к датуму WGS 84: величина ошибки неизвестна"));
@@ -66,16 +65,16 @@ public:
                             "нет перехода к датуму WGS 84: ошибка здесь около " + size + " м"));
     }
 
-    void about_distortion(const crs& from, const crs& to, const polyline& line,
+    void about_distortion(const crs& source, const crs& target, const polyline& line,
                           std::vector<std::string>& lines) const {
         polyline drawn = line;
-        if (const auto failure = transformation::between(from.text, to.text)->apply(drawn)) {
+        if (const auto failure = transformation::between(source.text, target.text)->apply(drawn)) {
             const std::string vertex = std::to_string(failure->vertex);
             lines.push_back(say("the line cannot be drawn there: vertex " + vertex + ": " + failure->reason,
                                 "линию нельзя в ней изобразить: вершина " + vertex + ": " + failure->reason));
             return;
         }
-        const auto distortion = length_distortion(drawn, to.text);
+        const auto distortion = length_distortion(drawn, target.text);
         if (!distortion || *distortion <= 0.01) return;
         const double share =
             *distortion < 0.1 ? std::round(1000 * *distortion) / 10 : std::round(100 * *distortion);
@@ -92,20 +91,20 @@ private:
 
     static point origin(const crs& system) {
         const auto number = [&](const char* key) { return system.tokens.number(key).value_or(0); };
-        point at{number("lon_0"), number("lat_0")};
-        if (system.tokens.has("zone")) at.x = 6 * number("zone") - 183;
+        point place{number("lon_0"), number("lat_0")};
+        if (system.tokens.has("zone")) place.x = 6 * number("zone") - 183;
         // A projection that counts from the equator is used where its country lies; the middle
         // latitudes stand for that.
-        if (at.y == 0) at.y = system.tokens.has("lat_1") ? number("lat_1") : 45;
-        return at;
+        if (place.y == 0) place.y = system.tokens.has("lat_1") ? number("lat_1") : 45;
+        return place;
     }
 
     /// How far a place moves when its longitude and latitude on this ellipsoid are read as WGS 84's, by
     /// the shift that is most used there: the middle one of those published for the place.
-    static std::optional<double> missing_shift(const crs& system, const ellipsoid& shape, point at) {
+    static std::optional<double> missing_shift(const crs& system, const ellipsoid& shape, point place) {
         std::vector<double> distances;
         for (const auto& shift : published_shifts(shape)) {
-            if (!shift.covers(at)) continue;
+            if (!shift.covers(place)) continue;
             proj4_text text("+proj=longlat +no_defs");
             const std::string ellps = system.tokens.value("ellps").value_or("");
             if (ellps.empty()) {
@@ -115,8 +114,8 @@ private:
                 text.set("ellps", ellps, "no_defs");
             }
             text.set_shift(shift.values);
-            if (const auto moved = to_wgs84({at}, text.str())) {
-                distances.push_back(ground_distance(at, moved->front()));
+            if (const auto moved = to_wgs84({place}, text.str())) {
+                distances.push_back(ground_distance(place, moved->front()));
             }
         }
         if (distances.empty()) return {};
@@ -142,10 +141,10 @@ bool same_ellipsoid(const crs& a, const crs& b) {
 
 }  // namespace
 
-std::vector<std::string> warnings_for(std::string_view proj4, language in, std::optional<point> near) {
+std::vector<std::string> warnings_for(std::string_view proj4, language wanted, std::optional<point> near) {
     std::vector<std::string> lines;
     const auto system = crs_of(proj4);
-    const advisor advice(in);
+    const advisor advice(wanted);
     advice.about_keys(*system, lines);
     if (!system->valid()) return lines;
     advice.about_missing_shift(*system, near, lines);
@@ -154,8 +153,8 @@ std::vector<std::string> warnings_for(std::string_view proj4, language in, std::
 }
 
 std::vector<std::string> warnings_for(std::string_view source, std::string_view target, const polyline& line,
-                                      language in) {
-    const advisor advice(in);
+                                      language wanted) {
+    const advisor advice(wanted);
     const auto from = crs_of(source);
     const auto to = crs_of(target);
     const auto near = middle_place(line, *from);

@@ -15,12 +15,13 @@ namespace oxhost {
 /// rotations that are a published shift's with opposite signs, keys that PROJ does not know. `near`, as
 /// WGS 84 longitude and latitude, says for which place the size of a missing shift is estimated; without
 /// it the projection's origin is taken. An empty text has no warnings, a refused one only its keys'.
-std::vector<std::string> warnings_for(std::string_view proj4, language in, std::optional<point> near = {});
+std::vector<std::string> warnings_for(std::string_view proj4, language wanted,
+                                      std::optional<point> near = {});
 
 /// About a reprojection of `line`, given in `source`: the warnings of both texts at the line's place,
 /// each named as source or target and said once; a missing shift only where the other side has another
 /// datum; lengths that the target distorts by more than one percent.
 std::vector<std::string> warnings_for(std::string_view source, std::string_view target, const polyline& line,
-                                      language in);
+                                      language wanted);
 
 }  // namespace oxhost

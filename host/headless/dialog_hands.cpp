@@ -21,46 +21,46 @@ std::string joined(const std::vector<std::string>& names) {
     return all;
 }
 
-bool is_control(const node& of) {
-    return of.kind() == node_kind::input || of.kind() == node_kind::floating_input ||
-           of.kind() == node_kind::dropdown;
+bool is_control(const node& control) {
+    return control.kind() == node_kind::input || control.kind() == node_kind::floating_input ||
+           control.kind() == node_kind::dropdown;
 }
 
 /// Every shown node that `wanted` accepts, in reading order.
-void collect(node& from, const std::function<bool(node&)>& wanted, std::vector<node*>& found) {
-    if (wanted(from)) found.push_back(&from);
-    for (const auto& child : from.children())
+void collect(node& root, const std::function<bool(node&)>& wanted, std::vector<node*>& found) {
+    if (wanted(root)) found.push_back(&root);
+    for (const auto& child : root.children())
         if (child->shown()) collect(*child, wanted, found);
 }
 
-std::vector<node*> all(shell::open_dialog& in, const std::function<bool(node&)>& wanted) {
+std::vector<node*> all(shell::open_dialog& dialog, const std::function<bool(node&)>& wanted) {
     std::vector<node*> found;
-    collect(in.root(), wanted, found);
+    collect(dialog.root(), wanted, found);
     return found;
 }
 
-bool stands_in_group(node& of, std::string_view caption) {
-    for (node* up = of.parent(); up; up = up->parent())
+bool stands_in_group(node& inner, std::string_view caption) {
+    for (node* up = inner.parent(); up; up = up->parent())
         if (up->kind() == node_kind::groupbox && up->state().caption == caption) return true;
     return false;
 }
 
-bool is_called(node& of, std::string_view name) {
-    if (of.name() == name) return true;
+bool is_called(node& asked, std::string_view name) {
+    if (asked.name() == name) return true;
     const auto slash = name.find('/');
-    return slash != name.npos && of.name() == name.substr(slash + 1) &&
-           stands_in_group(of, name.substr(0, slash));
+    return slash != name.npos && asked.name() == name.substr(slash + 1) &&
+           stands_in_group(asked, name.substr(0, slash));
 }
 
 /// The one of `there` that has the name; `what` tells the kind in the error.
-node& the_one(shell::open_dialog& in, const std::vector<node*>& there, std::string_view name,
+node& the_one(shell::open_dialog& dialog, const std::vector<node*>& there, std::string_view name,
               std::string_view what) {
     std::vector<node*> fitting;
     std::ranges::copy_if(there, std::back_inserter(fitting), [&](node* n) { return is_called(*n, name); });
     if (fitting.size() == 1) return *fitting.front();
     std::vector<std::string> names;
     for (node* each : there) names.push_back(each->name());
-    const std::string place = "the dialog " + in_quotes(in.caption());
+    const std::string place = "the dialog " + in_quotes(dialog.caption());
     if (fitting.empty())
         throw impossible(place + " has no " + std::string(what) + ' ' + in_quotes(name) + "; it has " +
                          joined(names));
@@ -77,10 +77,10 @@ std::vector<std::string>::const_iterator item_of(const std::vector<std::string>&
     return unique ? std::ranges::find_if(items, begins_so) : items.end();
 }
 
-node& the_only(shell::open_dialog& in, const std::vector<node*>& there, std::string_view what) {
+node& the_only(shell::open_dialog& dialog, const std::vector<node*>& there, std::string_view what) {
     if (there.size() == 1) return *there.front();
-    throw impossible("the dialog " + in_quotes(in.caption()) + " has " + std::to_string(there.size()) + ' ' +
-                     std::string(what) + "s, not one");
+    throw impossible("the dialog " + in_quotes(dialog.caption()) + " has " + std::to_string(there.size()) +
+                     ' ' + std::string(what) + "s, not one");
 }
 
 }  // namespace

@@ -11,39 +11,39 @@ namespace {
 
 class writer {
 public:
-    void write(node& of) {
-        switch (of.kind()) {
+    void write(node& shown) {
+        switch (shown.kind()) {
             case node_kind::groupbox:
-                line(of.state().caption);
+                line(shown.state().caption);
                 ++depth_;
-                write_children(of);
+                write_children(shown);
                 --depth_;
                 break;
             case node_kind::dropdown:
-                write_choice(of);
+                write_choice(shown);
                 break;
             case node_kind::floating_input:
-                line(of.name() + ": " + number_text(of.state().value) +
-                     (of.state().read_only || !of.state().enabled ? "  (shown)" : ""));
+                line(shown.name() + ": " + number_text(shown.state().value) +
+                     (shown.state().read_only || !shown.state().enabled ? "  (shown)" : ""));
                 break;
             case node_kind::input:
-                line(of.name() + ": " + of.state().text);
+                line(shown.name() + ": " + shown.state().text);
                 break;
             case node_kind::multiline_output:
-                write_lines(of.state().text);
+                write_lines(shown.state().text);
                 break;
             case node_kind::button:
             case node_kind::action_tool:
-                line('<' + of.state().caption + '>' + (of.state().enabled ? "" : "  (off)"));
+                line('<' + shown.state().caption + '>' + (shown.state().enabled ? "" : "  (off)"));
                 break;
             case node_kind::outline:
-                write_rows(*of.rows());
+                write_rows(*shown.rows());
                 break;
             case node_kind::label:
-                if (!captions_a_control(of)) line(of.state().caption);
+                if (!captions_a_control(shown)) line(shown.state().caption);
                 break;
             default:
-                write_children(of);
+                write_children(shown);
         }
     }
     const std::string& text() const { return text_; }
@@ -51,15 +51,15 @@ public:
 private:
     void line(const std::string& content) { text_ += std::string(2 * depth_, ' ') + content + '\n'; }
 
-    void write_children(node& of) {
-        for (const auto& child : of.children())
+    void write_children(node& shown) {
+        for (const auto& child : shown.children())
             if (child->shown()) write(*child);
     }
 
-    void write_choice(node& of) {
+    void write_choice(node& shown) {
         constexpr std::size_t most_listed = 12;
-        const auto& state = of.state();
-        line(of.name() + ": " + state.text);
+        const auto& state = shown.state();
+        line(shown.name() + ": " + state.text);
         std::string items;
         for (std::size_t i = 0; i < state.items.size() && i < most_listed; ++i)
             items += (i ? " | " : "") + state.items[i];

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/utf8.h"
+#include "base/text.h"
 
 namespace oxhost::map {
 
@@ -28,12 +28,12 @@ bool captions::is_free(const rectangle& box) const {
 void captions::avoid(const polyline& path) {
     constexpr double step = 8;
     for (std::size_t i = 1; i < path.size(); ++i) {
-        const point from = path[i - 1], to = path[i];
-        const double pieces = std::ceil(std::hypot(to.x - from.x, to.y - from.y) / step);
+        const point start = path[i - 1], end = path[i];
+        const double pieces = std::ceil(std::hypot(end.x - start.x, end.y - start.y) / step);
         if (pieces == 0) continue;
         for (double n = 0; n <= pieces; ++n)
-            taken_.push_back({from.x + (to.x - from.x) * n / pieces - step / 2,
-                              from.y + (to.y - from.y) * n / pieces - step / 2, step, step});
+            taken_.push_back({start.x + (end.x - start.x) * n / pieces - step / 2,
+                              start.y + (end.y - start.y) * n / pieces - step / 2, step, step});
     }
 }
 

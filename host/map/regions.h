@@ -1,5 +1,5 @@
 #pragma once
-/// Which lines are shown together: those that lie close to each other, in one frame.
+/// Which lines are shown together: those that lie close to each other, near the date line too.
 
 #include <cstddef>
 #include <vector>
@@ -7,6 +7,14 @@
 #include "base/line.h"
 
 namespace oxhost::map {
+
+/// The longitudes of a line go on beyond 180 degrees instead of jumping.
+void unwrap(polyline& line);
+
+/// Unwraps the lines and turns them by whole circles so that together they are as narrow as may be: the
+/// circle is cut in the middle of what is empty, at 180 degrees where that is in the widest gap. Empty lines
+/// are left alone.
+void gather(const std::vector<polyline*>& lines);
 
 /// Degrees; east may pass 180 where lines cross the date line.
 using geographic_extent = extent;

@@ -6,7 +6,6 @@
 
 #include "map/captions.h"
 #include "map/frame.h"
-#include "map/longitudes.h"
 
 namespace oxhost::map {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "base/numbers.h"
-#include "base/utf8.h"
+#include "base/text.h"
 
 namespace oxhost::map::svg {
 

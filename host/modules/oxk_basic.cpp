@@ -4,16 +4,23 @@
 #include <string>
 
 #include "session/border.h"
-#include "session/font.h"
 #include "session/language.h"
 #include "session/messages.h"
-#include "session/string_adapter.h"
 
 using namespace oxhost;
 
 namespace {
 
 constexpr int english_offset = 50000;
+
+/// What the host's font handles point at. Made with new by the host part that hands a font out; ended by its
+/// owner through this module.
+struct font_type {
+    std::string family;  ///< UTF-8; empty for the view's own
+    double points = 0;   ///< 0 for the view's own
+    bool bold = false;
+    bool italic = false;
+};
 
 }  // namespace
 

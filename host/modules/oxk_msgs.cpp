@@ -2,7 +2,6 @@
 
 #include "session/border.h"
 #include "session/messages.h"
-#include "session/string_adapter.h"
 
 using namespace oxhost;
 

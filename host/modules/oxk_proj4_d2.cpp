@@ -18,7 +18,6 @@
 #include "session/border.h"
 #include "session/journal.h"
 #include "session/language.h"
-#include "session/string_adapter.h"
 
 using namespace oxhost;
 

@@ -2,7 +2,6 @@
 
 #include "modules/scene_updates.h"
 #include "session/border.h"
-#include "session/string_adapter.h"
 
 using namespace oxhost;
 

@@ -64,10 +64,10 @@ vertex_block open_blob(std::span<const std::byte> blob) try {
 }
 
 template <class T>
-std::byte* put(std::byte* at, T value) {
+std::byte* put(std::byte* place, T value) {
     value = little_endian(value);
-    std::memcpy(at, &value, sizeof(T));
-    return at + sizeof(T);
+    std::memcpy(place, &value, sizeof(T));
+    return place + sizeof(T);
 }
 
 }  // namespace
@@ -82,18 +82,18 @@ void encode_line(std::span<const point> line, std::vector<std::byte>& blob) {
     const extent bounds = summarize(line).bounds;
     const unsigned envelope = bounds.empty() ? 0 : envelope_xy;
     blob.resize(8 + envelope_sizes[envelope] + 9 + line.size() * vertex_size);
-    std::byte* at = put(blob.data(), letter_g);
-    at = put(at, letter_p);
-    at = put(at, std::byte{0});
+    std::byte* place = put(blob.data(), letter_g);
+    place = put(place, letter_p);
+    place = put(place, std::byte{0});
     const unsigned flags = flag_little_endian | envelope << 1 | (line.empty() ? flag_empty : 0);
-    at = put(at, static_cast<std::uint8_t>(flags));
-    at = put(at, undefined_cartesian_srs);
+    place = put(place, static_cast<std::uint8_t>(flags));
+    place = put(place, undefined_cartesian_srs);
     if (envelope == envelope_xy)
-        for (double edge : {bounds.min_x, bounds.max_x, bounds.min_y, bounds.max_y}) at = put(at, edge);
-    at = put(at, std::uint8_t{1});
-    at = put(at, wkb_line_string);
-    at = put(at, static_cast<std::uint32_t>(line.size()));
-    for (const point& p : line) at = put(put(at, p.x), p.y);
+        for (double edge : {bounds.min_x, bounds.max_x, bounds.min_y, bounds.max_y}) place = put(place, edge);
+    place = put(place, std::uint8_t{1});
+    place = put(place, wkb_line_string);
+    place = put(place, static_cast<std::uint32_t>(line.size()));
+    for (const point& p : line) place = put(put(place, p.x), p.y);
 }
 
 void decode_line(std::span<const std::byte> blob, polyline& line) {

@@ -28,11 +28,11 @@ sqlite::connection open_checked(const fs::path& file, open_mode mode) {
     return db;
 }
 
-void bind_line(sqlite::statement& to, int parameter, const std::optional<std::vector<std::byte>>& blob) {
+void bind_line(sqlite::statement& update, int parameter, const std::optional<std::vector<std::byte>>& blob) {
     if (blob)
-        to.bind(parameter, std::span<const std::byte>(*blob));
+        update.bind(parameter, std::span<const std::byte>(*blob));
     else
-        to.bind_null(parameter);
+        update.bind_null(parameter);
 }
 
 }  // namespace
@@ -109,72 +109,72 @@ scene* project::at(std::size_t index) { return index < size() ? &store_->scenes[
 
 // ---- reading
 
-polyline project::read_line(const scene& of) {
+polyline project::read_line(const scene& subject) {
     polyline line;
     try {
-        if (store_->read_blob(of)) decode_line(store_->buffer, line);
+        if (store_->read_blob(subject)) decode_line(store_->buffer, line);
     } catch (const sqlite::error& e) {
-        refuse(of, "line cannot be read: " + explain(e));
+        refuse(subject, "line cannot be read: " + explain(e));
     } catch (const blob_error& e) {
-        refuse(of, e.what());
+        refuse(subject, e.what());
     }
     return line;
 }
 
-const polyline* project::lend_line(scene& of) {
-    if (store_->open.of == &of && store_->open.line) return &*store_->open.line;
-    if (!of.line) return nullptr;
-    auto found = store_->lent.find(&of);
-    if (found == store_->lent.end()) found = store_->lent.emplace(&of, read_line(of)).first;
+const polyline* project::lend_line(scene& subject) {
+    if (store_->open.subject == &subject && store_->open.line) return &*store_->open.line;
+    if (!subject.line) return nullptr;
+    auto found = store_->lent.find(&subject);
+    if (found == store_->lent.end()) found = store_->lent.emplace(&subject, read_line(subject)).first;
     return &found->second;
 }
 
-const std::string& project::proj4(const scene& of) const {
-    return store_->open.of == &of && store_->open.text ? *store_->open.text : of.proj4;
+const std::string& project::proj4(const scene& subject) const {
+    return store_->open.subject == &subject && store_->open.text ? *store_->open.text : subject.proj4;
 }
 
 // ---- changing
 
-void project::begin_update(scene& of) {
+void project::begin_update(scene& subject) {
     bracket& open = store_->open;
-    if (open.of == &of) {
+    if (open.subject == &subject) {
         ++open.depth;
         return;
     }
-    if (open.of) {
+    if (open.subject) {
         open.depth = 1;
-        end_update(*open.of);
+        end_update(*open.subject);
     }
-    open.of = &of;
+    open.subject = &subject;
     open.depth = 1;
 }
 
-void project::set_line(scene& of, const polyline& line) {
-    if (store_->open.of != &of)
-        store_->write(of, &line, nullptr);
+void project::set_line(scene& subject, const polyline& line) {
+    if (store_->open.subject != &subject)
+        store_->write(subject, &line, nullptr);
     else if (!store_->open.abandoned)
         store_->open.line = line;
 }
 
-void project::set_proj4(scene& of, std::string text) {
-    if (store_->open.of != &of)
-        store_->write(of, nullptr, &text);
+void project::set_proj4(scene& subject, std::string text) {
+    if (store_->open.subject != &subject)
+        store_->write(subject, nullptr, &text);
     else if (!store_->open.abandoned)
         store_->open.text = std::move(text);
 }
 
-void project::end_update(scene& of) {
-    if (store_->open.of != &of || --store_->open.depth > 0) return;
+void project::end_update(scene& subject) {
+    if (store_->open.subject != &subject || --store_->open.depth > 0) return;
     const bracket done = std::exchange(store_->open, {});
-    store_->lent.erase(&of);
-    store_->write(of, done.line ? &*done.line : nullptr, done.text ? &*done.text : nullptr);
+    store_->lent.erase(&subject);
+    store_->write(subject, done.line ? &*done.line : nullptr, done.text ? &*done.text : nullptr);
 }
 
-scene* project::updated_scene() const { return store_->open.of; }
+scene* project::updated_scene() const { return store_->open.subject; }
 
-void project::abandon_update(scene& of) {
+void project::abandon_update(scene& subject) {
     bracket& open = store_->open;
-    if (open.of != &of) return;
+    if (open.subject != &subject) return;
     open.abandoned = true;
     open.line.reset();
     open.text.reset();
@@ -213,13 +213,13 @@ void project::append(std::span<const new_scene> added) {
 }
 
 scene_state project::state(std::size_t index) {
-    const scene* of = at(index);
-    if (!of) refuse(path(), "has no scene " + std::to_string(index));
-    scene_state now{index, of->caption, of->profile, of->proj4, std::nullopt};
+    const scene* subject = at(index);
+    if (!subject) refuse(path(), "has no scene " + std::to_string(index));
+    scene_state now{index, subject->caption, subject->profile, subject->proj4, std::nullopt};
     try {
-        if (store_->read_blob(*of)) now.geometry = store_->buffer;
+        if (store_->read_blob(*subject)) now.geometry = store_->buffer;
     } catch (const sqlite::error& e) {
-        refuse(*of, "line cannot be read: " + explain(e));
+        refuse(*subject, "line cannot be read: " + explain(e));
     }
     return now;
 }
@@ -233,12 +233,12 @@ void project::restore(std::span<const scene_state> states) {
         sqlite::statement update(store_->db,
                                  "UPDATE scenes SET caption=?1, profile=?2, proj4=?3, geom=?4 WHERE fid=?5");
         for (const scene_state& state : states) {
-            const scene* of = at(state.index);
-            if (!of) refuse(path(), "has no scene " + std::to_string(state.index));
+            const scene* subject = at(state.index);
+            if (!subject) refuse(path(), "has no scene " + std::to_string(state.index));
             lines.push_back(state.geometry ? std::optional(summarize_blob(*state.geometry)) : std::nullopt);
             update.bind(1, state.caption).bind(2, std::int64_t{state.profile}).bind(3, state.proj4);
             bind_line(update, 4, state.geometry);
-            update.bind(5, of->row).run();
+            update.bind(5, subject->row).run();
         }
         change.commit();
     } catch (const sqlite::error& e) {
@@ -246,12 +246,12 @@ void project::restore(std::span<const scene_state> states) {
     }
     store_->changed = true;
     for (std::size_t i = 0; i < states.size(); ++i) {
-        scene& of = *at(states[i].index);
-        of.caption = states[i].caption;
-        of.profile = states[i].profile;
-        of.proj4 = states[i].proj4;
-        of.line = lines[i];
-        store_->lent.erase(&of);
+        scene& subject = *at(states[i].index);
+        subject.caption = states[i].caption;
+        subject.profile = states[i].profile;
+        subject.proj4 = states[i].proj4;
+        subject.line = lines[i];
+        store_->lent.erase(&subject);
     }
 }
 

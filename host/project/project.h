@@ -104,23 +104,23 @@ public:
     scene* at(std::size_t index);  ///< null when out of range
 
     /// The stored line, decoded now; empty when there is none.
-    polyline read_line(const scene& of);
+    polyline read_line(const scene& subject);
     /// The current line, pending changes included; null when there is none. Lent until the scene's line
     /// changes or the bracket that reads it ends.
-    const polyline* lend_line(scene& of);
+    const polyline* lend_line(scene& subject);
     /// The current projection text, pending changes included.
-    const std::string& proj4(const scene& of) const;
+    const std::string& proj4(const scene& subject) const;
 
     /// Changes between begin_update and end_update reach the file together, at the end; outside a bracket
     /// each reaches it at once. Brackets of one scene nest. Beginning another scene ends the open bracket
     /// first. When the file refuses (disk full, read-only), end_update throws; memory then equals the file.
-    void begin_update(scene& of);
-    void set_line(scene& of, const polyline& line);
-    void set_proj4(scene& of, std::string text);
-    void end_update(scene& of);
+    void begin_update(scene& subject);
+    void set_line(scene& subject, const polyline& line);
+    void set_proj4(scene& subject, std::string text);
+    void end_update(scene& subject);
     scene* updated_scene() const;  ///< whose bracket is open; null when none is
     /// Drops what the open bracket of the scene holds so far, and what it will be given yet.
-    void abandon_update(scene& of);
+    void abandon_update(scene& subject);
     /// What the last end_update or direct change wrote.
     struct written {
         bool line = false;

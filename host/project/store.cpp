@@ -84,9 +84,9 @@ void project::store::prepare_writing() {
 }
 
 /// The stored geometry in `buffer`; false when there is none.
-bool project::store::read_blob(const scene& of) {
+bool project::store::read_blob(const scene& subject) {
     if (!db.get()) refuse(file, "is closed");
-    read_geometry.bind(1, of.row);
+    read_geometry.bind(1, subject.row);
     const bool found = read_geometry.step() && !read_geometry.is_null(0);
     if (found) {
         const auto blob = read_geometry.blob(0);
@@ -96,13 +96,13 @@ bool project::store::read_blob(const scene& of) {
     return found;
 }
 
-void project::store::write(scene& of, const polyline* line, const std::string* text) {
+void project::store::write(scene& subject, const polyline* line, const std::string* text) {
     last = {};
     if (!line && !text) return;
     try {
         prepare_writing();
         sqlite::statement& update = line && text ? write_both : line ? write_line : write_text;
-        update.bind(1, of.row);
+        update.bind(1, subject.row);
         if (line) {
             encode_line(*line, buffer);
             update.bind(2, std::span<const std::byte>(buffer));
@@ -110,13 +110,13 @@ void project::store::write(scene& of, const polyline* line, const std::string* t
         if (text) update.bind(3, *text);
         update.run();
     } catch (const sqlite::error& e) {
-        refuse(of, "cannot be stored: " + explain(e));
+        refuse(subject, "cannot be stored: " + explain(e));
     }
     changed = true;
     last = {.line = line != nullptr, .text = text != nullptr};
-    lent.erase(&of);
-    if (line) of.line = summarize(*line);
-    if (text) of.proj4 = *text;
+    lent.erase(&subject);
+    if (line) subject.line = summarize(*line);
+    if (text) subject.proj4 = *text;
 }
 
 void project::store::close() {
@@ -128,8 +128,8 @@ void project::store::close() {
     try {
         if (changed && mode == open_mode::read_write) {
             extent bounds;
-            for (const scene& of : scenes)
-                if (of.line) bounds.add(of.line->bounds);
+            for (const scene& each : scenes)
+                if (each.line) bounds.add(each.line->bounds);
             refresh_layer(db, bounds);
         }
         for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};

@@ -16,7 +16,7 @@ std::string explain(const sqlite::error& e);
 
 /// What one scene has been given since its bracket was opened.
 struct bracket {
-    scene* of = nullptr;
+    scene* subject = nullptr;
     int depth = 0;
     bool abandoned = false;
     std::optional<polyline> line;
@@ -43,8 +43,8 @@ struct project::store {
     void load(project& owner);
     void lock();
     void prepare_writing();
-    bool read_blob(const scene& of);
-    void write(scene& of, const polyline* line, const std::string* text);
+    bool read_blob(const scene& subject);
+    void write(scene& subject, const polyline* line, const std::string* text);
     void close();
 };
 

@@ -1,4 +1,4 @@
-#include "run/advice.h"
+#include "run/reprojection.h"
 
 #include <algorithm>
 #include <map>

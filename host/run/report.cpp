@@ -74,7 +74,7 @@ json scene_json(const record& told, std::size_t i) {
     return {{"index", subject.index},
             {"caption", subject.caption},
             {"source_proj4", result.source},
-            {"target_proj4", told.into.proj4},
+            {"target_proj4", told.goal.proj4},
             {"outcome", name_of(result.came_to)},
             {"rolled_back", result.rolled_back},
             {"vertices", before.size()},
@@ -82,7 +82,7 @@ json scene_json(const record& told, std::size_t i) {
             {"length_after_m", or_null(length(after, subject.proj4))},
             {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
             {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
-            {"operation", reprojected ? operation_of(result, before, told.into.proj4) : json()},
+            {"operation", reprojected ? operation_of(result, before, told.goal.proj4) : json()},
             {"failure", failure_of(result)}};
 }
 
@@ -114,7 +114,7 @@ std::string report_text(const record& told) {
     json scenes = json::array();
     for (std::size_t i = 0; i < told.results.size(); ++i) scenes.push_back(scene_json(told, i));
     const json report{{"project", told.wanted.project.string()},
-                      {"target", {{"given", told.into.given}, {"proj4", told.into.proj4}}},
+                      {"target", {{"given", told.goal.given}, {"proj4", told.goal.proj4}}},
                       {"dry_run", told.wanted.dry_run},
                       {"on_error", name_of(told.wanted.policy)},
                       {"proj", {{"library", versions.library}, {"database", or_null(versions.database)}}},
@@ -126,10 +126,10 @@ std::string report_text(const record& told) {
 
 std::string map_text(const record& told) {
     const language wanted = current_language();
-    const std::string goal = told.into.none()
-                                 ? std::string(in_language("проекция сброшена", "projection reset"))
-                                 : short_description(told.into.proj4, wanted);
-    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + goal,
+    const std::string destination = told.goal.none()
+                                        ? std::string(in_language("проекция сброшена", "projection reset"))
+                                        : short_description(told.goal.proj4, wanted);
+    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + destination,
                      .note = {},
                      .wanted = wanted,
                      .lines = {}};

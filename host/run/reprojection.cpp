@@ -1,8 +1,5 @@
 #include "run/reprojection.h"
 
-#include "run/advice.h"
-#include "run/failure.h"
-#include "run/selection.h"
 #include "session/messages.h"
 
 namespace oxhost::run {
@@ -33,12 +30,12 @@ std::vector<scene*> not_attempted(const std::vector<scene_result>& results) {
 
 reprojection::reprojection(order wanted)
     : order_(std::move(wanted)),
-      into_(read_target(order_.target)),
+      goal_(read_target(order_.target)),
       project_(open_project(order_.project, order_.dry_run ? open_mode::scratch : open_mode::read_write)),
       scenes_(scenes_of(order_, *project_)),
       utility_(order_.bundle),
       results_(before_run(scenes_)),
-      warnings_(advise(*project_, results_, into_.proj4)) {}
+      warnings_(advise(*project_, results_, goal_.proj4)) {}
 
 void reprojection::perform() {
     before_ = kept_lines();
@@ -49,12 +46,12 @@ void reprojection::perform() {
     std::size_t seen = 0;
     const auto after_apply = [&]() -> std::vector<scene*> {
         const std::size_t before = seen;
-        seen = read_journal(results_, into_.proj4, seen);
+        seen = read_journal(results_, goal_.proj4, seen);
         const bool went_on = seen > before;  // else a further try would end the same way
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};
     };
     const served_project serving(project_.get());
-    utility_.run(into_, listed_scenes(*project_), scenes_, after_apply);
+    utility_.run(goal_, listed_scenes(*project_), scenes_, after_apply);
 }
 
 void reprojection::roll_back_if_failed() {
@@ -70,7 +67,7 @@ void reprojection::roll_back_if_failed() {
     }
 }
 
-record reprojection::told() { return {order_, into_, warnings_, results_, before_, kept_lines()}; }
+record reprojection::told() { return {order_, goal_, warnings_, results_, before_, kept_lines()}; }
 
 void reprojection::close() { project_->close(); }
 

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "run/outcome.h"
-#include "run/reprojection_utility.h"
-#include "run/target.h"
+#include "run/plug_in.h"
+#include "run/request.h"
 
 namespace oxhost::run {
 
@@ -36,7 +36,7 @@ struct order {
 /// All that reports and maps tell of.
 struct record {
     const order& wanted;
-    const target& into;
+    const target& goal;
     const std::vector<std::string>& warnings;
     const std::vector<scene_result>& results;
     // As many as results, when lines are kept:
@@ -44,12 +44,18 @@ struct record {
     std::vector<polyline> after;          ///< in the projections that the scenes have now
 };
 
+/// What a user should know beforehand: warnings about the scenes' projections and the target, once each with
+/// the scene that it was found at. Of the scenes of one projection only those that reach farthest are looked
+/// at: what is wrong with a text is wrong for all of them, and lengths suffer most at the edges.
+std::vector<std::string> advise(project& opened, const std::vector<scene_result>& scenes,
+                                const std::string& target);
+
 class reprojection {
 public:
     /// Nothing is changed yet. Throws failure, project_error, bundle_error.
     explicit reprojection(order wanted);
 
-    /// What the user should know beforehand.
+    /// As `advise` gives them.
     const std::vector<std::string>& warnings() const { return warnings_; }
     /// Drives the plug-in until the order's policy is content.
     void perform();
@@ -63,7 +69,7 @@ private:
     std::vector<polyline> kept_lines();
 
     order order_;
-    target into_;
+    target goal_;
     std::unique_ptr<project> project_;
     std::vector<scene*> scenes_;
     reprojection_utility utility_;

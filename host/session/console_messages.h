@@ -29,7 +29,7 @@ struct console_options {
 
 class console_messages final : public message_policy {
 public:
-    console_messages(console on, console_options options) : on_(on), options_(options) {}
+    console_messages(console shown_on, console_options options) : console_(shown_on), options_(options) {}
 
     void show(message_kind kind, const std::string& text) override;
     std::optional<bool> ask(const std::string& text) override;
@@ -38,7 +38,7 @@ public:
 private:
     std::optional<bool> ask_terminal(const std::string& text);
 
-    console on_;
+    console console_;
     console_options options_;
 };
 

@@ -2,9 +2,32 @@
 
 #include <algorithm>
 
-#include "shell/read_utf8.h"
+#include "border/call.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
+
+bundle_context::~bundle_context() {
+    for (const ox::custom_pointer& left : referrers_) ox::call<&ox::referrer_impl::released>(left, self());
+}
+
+ox::custom_pointer bundle_context::pointer() { return ox::make_pointer<ox::bundle_context_impl>(*this); }
+
+void bundle_context::visit_registry(ox::custom_pointer registry_visitor) {
+    ox::call<&ox::service_registry_visitor_impl::visit_registry>(registry_visitor, registry_);
+}
+
+std::size_t bundle_context::add_referrer(ox::custom_pointer referrer) {
+    referrers_.push_back(referrer);
+    return referrers_.size();
+}
+
+void bundle_context::remove_referrer(ox::custom_pointer referrer) {
+    if (const auto found = std::ranges::find(referrers_, referrer); found != referrers_.end())
+        referrers_.erase(found);
+}
+
+ox::custom_pointer bundle_context::self() { return ox::make_pointer<ox::referent_impl>(*this); }
 
 namespace {
 
@@ -29,8 +52,8 @@ bundle_host::bundle_host(const std::filesystem::path& file, dialog_user& user)
     factory_keys_ = std::move(found.keys);
 }
 
-std::string bundle_host::caption(const offered_utility& of) const {
-    return read_utf8<&ox::utility_impl::visit_caption>(of.utility);
+std::string bundle_host::caption(const offered_utility& offered) const {
+    return read_utf8<&ox::utility_impl::visit_caption>(offered.utility);
 }
 
 void bundle_host::run(std::string_view utility_id) {

@@ -1,15 +1,43 @@
 #pragma once
 /// One bundle at work: loaded, its services created and held, its dialogs served. [ui]
 ///
-///     bundle_host host(file, user);             // `user` acts in the dialogs
-///     host.run("oxk_scn2d_prf_reproj");         // returns when the utility's dialog is closed
+///     bundle_host host(file, user);                // `user` acts in the dialogs
+///     host.run(host.utilities().front().id);       // returns when the utility's dialog is closed
 
+#include <vector>
+
+#include "border/interfaces/lifetime.h"
+#include "border/interfaces/services.h"
+#include "border/polymorphic.h"
 #include "shell/bundle.h"
-#include "shell/bundle_context.h"
 #include "shell/dialogs.h"
 #include "shell/service_registry.h"
 
 namespace oxhost::shell {
+
+/// What a bundle is created with: the way to the registry, and the owner of its objects.
+/// Lives as long as its owner keeps it, whoever refers to it: the bundle's objects register here and
+/// must be gone before it goes. [ui]
+class bundle_context final : public ox::polymorphic<ox::bundle_context_impl>,
+                             public ox::polymorphic<ox::referent_impl> {
+public:
+    bundle_context() = default;
+    ~bundle_context();
+
+    void offer(ox::custom_pointer registry) { registry_ = registry; }
+
+    ox::custom_pointer pointer();
+    std::size_t referrer_count() const { return referrers_.size(); }
+
+    void visit_registry(ox::custom_pointer registry_visitor) override;
+    std::size_t add_referrer(ox::custom_pointer referrer) override;
+    void remove_referrer(ox::custom_pointer referrer) override;
+    ox::custom_pointer self() override;
+
+private:
+    ox::custom_pointer registry_{};
+    std::vector<ox::custom_pointer> referrers_;
+};
 
 class bundle_host {
 public:
@@ -21,7 +49,7 @@ public:
     const std::vector<offered_utility>& utilities() const { return registry_.utilities(); }
     /// Keys of the bundle's factories, in its order.
     const std::vector<std::string>& factory_keys() const { return factory_keys_; }
-    std::string caption(const offered_utility& utility) const;
+    std::string caption(const offered_utility& offered) const;
 
     /// Throws bundle_error when the bundle has no such utility, and what the user threw.
     void run(std::string_view utility_id);

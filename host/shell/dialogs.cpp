@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "shell/host_strings.h"
-#include "shell/read_utf8.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 

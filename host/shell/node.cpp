@@ -6,8 +6,7 @@
 #include "border/interfaces/controls.h"
 #include "border/interfaces/outlines.h"
 #include "border/interfaces/tools.h"
-#include "shell/node_state.h"
-#include "shell/read_utf8.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "border/interfaces/layouts.h"
-#include "shell/picture.h"
 #include "shell/table.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 
@@ -56,6 +56,9 @@ struct node_state {
     bool checked = false;
     std::vector<grid_line> rows, columns;  ///< of grids
 };
+
+/// Asks an element all of it.
+node_state read_state(node_kind kind, ox::custom_pointer element);
 
 class node final : private ox::element_view_slots {
 public:

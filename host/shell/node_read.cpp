@@ -3,8 +3,8 @@
 
 #include "border/interfaces/controls.h"
 #include "border/interfaces/tools.h"
-#include "shell/node_state.h"
-#include "shell/read_utf8.h"
+#include "shell/node.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 

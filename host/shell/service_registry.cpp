@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "border/call.h"
 
 namespace oxhost::shell {
@@ -10,7 +10,7 @@ namespace oxhost::shell {
 namespace {
 
 struct utility_collector final : ox::utility_visitor_impl {
-    explicit utility_collector(std::vector<offered_utility>& into) : found(into) {}
+    explicit utility_collector(std::vector<offered_utility>& found_utilities) : found(found_utilities) {}
     void visit(const wchar_t* id, ox::custom_pointer utility) override {
         found.push_back({to_utf8(id), utility});
     }
@@ -18,7 +18,8 @@ struct utility_collector final : ox::utility_visitor_impl {
 };
 
 struct dialog_collector final : ox::modal_dialog_visitor_impl {
-    dialog_collector(dialog_desk& on, std::vector<ox::custom_pointer>& into) : desk(on), found(into) {}
+    dialog_collector(dialog_desk& used, std::vector<ox::custom_pointer>& found_dialogs)
+        : desk(used), found(found_dialogs) {}
     void visit(const wchar_t* id, ox::custom_pointer dialog) override {
         found.push_back(dialog);
         ox::call<&ox::modal_dialog_impl::attach>(dialog, desk.host_of(to_utf8(id)));

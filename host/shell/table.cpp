@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "shell/read_utf8.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 
@@ -16,7 +16,7 @@ using bitmap_column = ox::bitmap_outline_column_impl;
 
 /// Names a row to the bundle, for one call.
 struct row_item final : ox::outline_item_index_impl {
-    explicit row_item(std::uint32_t of) : number(of) {}
+    explicit row_item(std::uint32_t row_number) : number(row_number) {}
     void visit_parent(ox::custom_pointer item_visitor) override {
         call<&ox::outline_item_index_visitor_impl::visit>(item_visitor, ox::custom_pointer{});
     }
@@ -49,7 +49,7 @@ struct column_reader final : ox::outline_column_visitor_impl {
 
 }  // namespace
 
-table_model::table_model(ox::custom_pointer of) : outline_(of) {
+table_model::table_model(ox::custom_pointer outline_pointer) : outline_(outline_pointer) {
     checks_reader checks;
     call<&outline::visit_checks>(outline_, ox::make_pointer<ox::outline_checks_visitor_impl>(checks));
     checks_ = checks.checks;
@@ -110,16 +110,16 @@ bool table_model::checked(std::uint32_t row) const {
     return call<&ox::outline_checks_impl::state>(checks_, row_item(row).pointer());
 }
 
-void table_model::check(std::uint32_t row, bool on) {
-    call<&ox::outline_checks_impl::set_state>(checks_, row_item(row).pointer(), on);
+void table_model::check(std::uint32_t row, bool checked_now) {
+    call<&ox::outline_checks_impl::set_state>(checks_, row_item(row).pointer(), checked_now);
 }
 
 bool table_model::selected(std::uint32_t row) const {
     return call<&outline::is_selected>(outline_, row_item(row).pointer());
 }
 
-void table_model::select(std::uint32_t row, bool on) {
-    call<&outline::set_selected>(outline_, row_item(row).pointer(), on);
+void table_model::select(std::uint32_t row, bool selected_now) {
+    call<&outline::set_selected>(outline_, row_item(row).pointer(), selected_now);
 }
 
 std::optional<std::uint32_t> table_model::current() const {

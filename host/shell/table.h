@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "border/interfaces/outlines.h"
-#include "shell/picture.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 
@@ -43,10 +43,10 @@ public:
 
     bool has_checks() const { return static_cast<bool>(checks_); }
     bool checked(std::uint32_t row) const;
-    void check(std::uint32_t row, bool on);
+    void check(std::uint32_t row, bool checked_now);
 
     bool selected(std::uint32_t row) const;
-    void select(std::uint32_t row, bool on);
+    void select(std::uint32_t row, bool selected_now);
     std::optional<std::uint32_t> current() const;
     void make_current(std::uint32_t row);
 

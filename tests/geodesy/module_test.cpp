@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "border/host_api/oxk_proj4_d2.h"
+#include "session/border.h"
 #include "session/journal.h"
 #include "session/language.h"
-#include "session/string_adapter.h"
 #include "texts.h"
 
 namespace oxhost {
@@ -77,6 +77,37 @@ TEST(Module, ReprojectorWritesTheJournal) {
     ox_rpj_d2_destroy(rpj);
     ox_rpj_d2_destroy(nullptr);
     log.clear();
+}
+
+TEST(Module, BearsNulls) {
+    EXPECT_TRUE(ox_pj4_equal_w(nullptr, nullptr));
+    EXPECT_TRUE(ox_pj4_equal_w(nullptr, L""));
+    EXPECT_FALSE(ox_pj4_equal_w(utm, nullptr));
+    EXPECT_EQ(delivered([](void* to) { ox_pj4_import_crs(nullptr, to); }), L"untouched");
+    for (const auto load : {ox_pj4_load_simple_w, ox_pj4_import_esri}) {
+        EXPECT_EQ(delivered([&](void* to) { load(nullptr, to); }), L"untouched");
+        EXPECT_TRUE(journal::instance().take_file_failure());
+    }
+    ox_pj4_save_simple_w(nullptr, nullptr);
+    ox_pj4_export_esri_prj(nullptr, nullptr);
+    EXPECT_TRUE(journal::instance().take_file_failure());
+    EXPECT_EQ(ox_pj4_fav_list_get_count(nullptr), 0);
+    ox_pj4_fav_list_deserialize(nullptr);
+    ox_pj4_fav_list_serialize(nullptr);
+    ox_pj4_fav_add_item(nullptr, nullptr, nullptr);
+    ox_pj4_fav_del_item(nullptr, 0);
+    ox_pj4_fav_set_caption(nullptr, 0, nullptr);
+    for (const auto read : {ox_pj4_fav_get_caption, ox_pj4_fav_get_pj4str})
+        EXPECT_EQ(delivered([&](void* to) { read(nullptr, 0, to); }), L"untouched");
+    ox_pj4_fav_list_destroy(nullptr);
+    EXPECT_FALSE(ox_rpj_d2_init_w(nullptr, utm, longlat));
+    EXPECT_FALSE(ox_rpj_d2_rpj_is_needed(nullptr));
+    polyline line{{39, 55}};
+    EXPECT_FALSE(ox_rpj_d2_apply_pv(nullptr, &line));
+    void* const rpj = ox_rpj_d2_create();
+    ASSERT_TRUE(ox_rpj_d2_init_w(rpj, longlat, utm));
+    EXPECT_FALSE(ox_rpj_d2_apply_pv(rpj, nullptr));
+    ox_rpj_d2_destroy(rpj);
 }
 
 TEST(Module, FavouritesByIndex) {

@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "map/longitudes.h"
 #include "testing/case_name.h"
 
 namespace oxhost::map {

@@ -6,8 +6,8 @@
 #include "border/host_api/oxk_prg.h"
 #include "border/host_api/oxk_prj.h"
 #include "border/host_api/oxk_scn_2d.h"
+#include "session/border.h"
 #include "session/journal.h"
-#include "session/string_adapter.h"
 #include "workspace.h"
 
 namespace project_test {
@@ -55,15 +55,25 @@ TEST_F(HostModules, TolerateNullsAndWrongIndexes) {
     EXPECT_EQ(ox_scns_2d_get_size(ox_prj_get_scns_2d_ptr(ox_prj_get_instance())), 0U);
     EXPECT_EQ(scene_at(0), nullptr);
     EXPECT_EQ(read(ox_scn_2d_get_wcaption, nullptr), L"(nothing delivered)");
+    EXPECT_EQ(read(ox_prf_data_get_prj4string, nullptr), L"(nothing delivered)");
     EXPECT_EQ(ox_scn_2d_get_prf_data_ptr(nullptr), nullptr);
     EXPECT_FALSE(ox_prf_data_get_is_profil(nullptr));
     EXPECT_EQ(ox_prf_data_get_pv_ptr(nullptr), nullptr);
     ox_prf_data_set_prj4string(nullptr, L"x");
     ox_prf_data_set_pv(nullptr, nullptr);
+    ox_prf_data_set_pv(opened_->at(0), nullptr);
+    ox_scn_2d_get_wcaption(opened_->at(0), nullptr);
+    ox_prf_data_get_prj4string(opened_->at(0), nullptr);
     ox_scn_begin_update(nullptr);
     ox_scn_end_update(nullptr);
     ox_pv_d2_assign(nullptr, nullptr);
     ox_pv_d2_destroy(nullptr);
+    EXPECT_EQ(journal::instance().updates().size(), 0U);
+    ox_prf_data_set_prj4string(opened_->at(0), nullptr);
+    EXPECT_EQ(opened_->at(0)->proj4, "") << "a null text is an empty one";
+    polyline filled{{1, 2}};
+    ox_pv_d2_assign(&filled, nullptr);
+    EXPECT_TRUE(filled.empty());
 }
 
 TEST_F(HostModules, BracketCopiesTheLineAndIsRecorded) {

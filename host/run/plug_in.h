@@ -1,16 +1,38 @@
 #pragma once
-/// The plug-in's projection dialog, reached as a person reaches it: through the target of its utility.
+/// The plug-in's dialogs, worked as a person would.
 
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "base/files.h"
 #include "headless/scripted_user.h"
+#include "project/project.h"
+#include "run/request.h"
 #include "shell/bundle_host.h"
 
 namespace oxhost::run {
 
+/// Its reprojection utility.
+class reprojection_utility {
+public:
+    /// Throws bundle_error.
+    explicit reprojection_utility(const std::filesystem::path& bundle) : host_(bundle, user_) {}
+
+    /// Opens the utility's dialog over the current project, sets the target, checks the scenes' rows and
+    /// presses apply; then checks and applies what `again` answers, until that is nothing, and closes the
+    /// dialog. Messages and questions go through `messages`, changes to scenes through `journal`.
+    /// `listed` are the scenes that the dialog must show, in its order.
+    void run(const target& goal, const std::vector<scene*>& listed, std::vector<scene*> wanted,
+             const std::function<std::vector<scene*>()>& again);
+
+private:
+    headless::scripted_user user_;
+    shell::bundle_host host_;
+};
+
+/// Its projection dialog, reached as a person reaches it: through the target of the utility.
 class projection_dialog {
 public:
     /// Throws bundle_error.

@@ -1,11 +1,19 @@
 #pragma once
-/// GDAL reports through a handler of the process; while a guard lives, it keeps the reports to itself.
+/// Inside the library that needs GDAL: the two directions behind the exchange interface, and its reports.
 
 #include <filesystem>
 #include <string>
 
+#include "exchange/exchange.h"
+
 namespace oxhost {
 
+import_counts import_file(const std::filesystem::path& source, const import_options& options,
+                          const std::function<void(new_scene&&)>& sink);
+void export_to_file(const std::filesystem::path& out, const std::filesystem::path& project_file,
+                    const std::string& crs, const std::function<std::optional<new_scene>()>& next);
+
+/// GDAL reports through a handler of the process; while a guard lives, it keeps the reports to itself.
 class gdal_guard {
 public:
     gdal_guard();

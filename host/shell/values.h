@@ -1,13 +1,31 @@
 #pragma once
+/// What a bundle's objects hand to visitors, as plain values: texts, and the small pictures of buttons, tools
+/// and cells.
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "base/utf8.h"
+#include "base/text.h"
 #include "border/call.h"
+#include "border/custom_pointer.h"
 #include "border/interfaces/values.h"
 
 namespace oxhost::shell {
+
+/// Rows from the top, 4 bytes a pixel: red, green, blue, alpha.
+struct picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> rgba;
+
+    bool empty() const { return rgba.empty(); }
+};
+
+/// The picture whose bitmap `visit` hands to the bitmap visitor it is given; empty when it hands over none.
+picture read_picture(const std::function<void(ox::custom_pointer bitmap_visitor)>& visit);
 
 /// Keeps the last text it was handed.
 struct text_reader final : ox::string_visitor_impl {

@@ -1,11 +1,9 @@
-#include "run/projection_dialog.h"
+#include "run/plug_in.h"
 
 #include <algorithm>
 
 #include "base/text.h"
-#include "run/failure.h"
 #include "run/plug_in_texts.h"
-#include "run/target.h"
 #include "session/journal.h"
 #include "shell/host_strings.h"
 
@@ -17,12 +15,58 @@ using shell::node_kind;
 
 namespace {
 
+/// After a button that reads or writes a file.
 void fail_on_file_error() {
     if (const auto error = journal::instance().take_file_failure())
         throw failure(trouble::unreadable, *error);
 }
 
+void set_target(dialog_hands& hands, headless::scripted_user& user, const target& goal,
+                const temporary_folder& folder) {
+    if (goal.none()) {
+        shell::node& button = hands.menu_button();
+        const std::size_t entries = hands.menu_entries(button).size();
+        return hands.choose_entry(button, entries - 1);  // the last one is always "not defined"
+    }
+    user.answer_file(file_of(goal, folder));
+    hands.click(plug_in_text::load());
+    fail_on_file_error();
+}
+
+/// The rows of the table are the listed scenes; both are in project order.
+void check_scenes(dialog_hands& hands, const std::vector<scene*>& listed, const std::vector<scene*>& wanted) {
+    shell::table_model& table = *hands.only(node_kind::outline).rows();
+    if (table.row_count() != listed.size())
+        throw headless::impossible("the dialog lists " + std::to_string(table.row_count()) + " scenes, not " +
+                                   std::to_string(listed.size()));
+    if (wanted.size() == listed.size()) return hands.click_tool(plug_in_text::select_all_tool);
+    const std::size_t name = table.column_of(plug_in_text::name_column);
+    std::vector<std::uint32_t> rows;
+    for (const scene* each : wanted) {
+        const auto place = std::ranges::lower_bound(listed, each->index, {}, &scene::index);
+        rows.push_back(static_cast<std::uint32_t>(place - listed.begin()));
+        if (table.text(rows.back(), name) != each->caption)
+            throw headless::impossible("the dialog lists another scene in place of " + name_of(*each));
+    }
+    headless::check_rows(table, rows);
+}
+
 }  // namespace
+
+void reprojection_utility::run(const target& goal, const std::vector<scene*>& listed,
+                               std::vector<scene*> wanted,
+                               const std::function<std::vector<scene*>()>& again) {
+    const temporary_folder folder;
+    user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
+        set_target(hands, user_, goal, folder);
+        for (; !wanted.empty(); wanted = again()) {
+            check_scenes(hands, listed, wanted);
+            if (hands.press(button_role::accept)) return;
+        }
+        hands.press(button_role::reject);
+    });
+    host_.run(plug_in_text::utility);
+}
 
 void projection_dialog::open(const std::string& proj4, const std::function<void(dialog_hands&)>& act) {
     user_.in_dialog(plug_in_text::projection_dialog, [&](dialog_hands& hands) { act(hands); });

@@ -1,8 +1,9 @@
-#include "base/utf8.h"
+#include "base/text.h"
 
 #include <algorithm>
 
 namespace oxhost {
+
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;

@@ -1,4 +1,4 @@
-#include "session/faults.h"
+#include "session/border.h"
 
 namespace oxhost {
 namespace {

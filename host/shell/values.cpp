@@ -1,4 +1,4 @@
-#include "shell/picture.h"
+#include "shell/values.h"
 
 #include "border/call.h"
 #include "border/interfaces/values.h"
