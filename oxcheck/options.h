@@ -27,7 +27,7 @@ inline constexpr const char* usage_text =
     "usage: oxcheck BUNDLE [--json FILE] [--only NAME]... [--seconds N]\n"
     "       oxcheck --list\n"
     "Checks the binary contract of a bundle. NAME is a check or a group of checks, as --list shows\n"
-    "them; N is the time that each check may take. Exit codes: 0 nothing failed, 1 a check failed,\n"
+    "them; N is the processor time that each check may take, and how long it may stand still. Exit codes: 0 nothing failed, 1 a check failed,\n"
     "64 wrong usage, 66 the bundle cannot be read.\n";
 
 /// Throws `usage_error`.

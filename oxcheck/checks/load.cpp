@@ -8,6 +8,7 @@
 #include "oxcheck/files/exports.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
+#include "testing/processor_time.h"
 
 namespace oxcheck {
 
@@ -74,18 +75,16 @@ void unloads_without_trace(const subject& given) {
 }
 
 void loads_quickly(const subject& given) {
-    using clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds limit(100);
-    // The fastest of a few: the first one waits for the disk.
-    auto fastest = clock::duration::max();
+    auto fastest = std::chrono::nanoseconds::max();  // of a few: the first one fetches pages from the disk
     for (int i = 0; i < 5; ++i) {
-        const auto start = clock::now();
+        const auto start = processor_time();
         const bundle loaded(given.bundle);
         loaded.enter(nullptr);
-        fastest = std::min(fastest, clock::now() - start);
+        fastest = std::min(fastest, processor_time() - start);
     }
     const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(fastest);
-    require(taken < limit, "loaded in under 100 ms", std::to_string(taken.count()) + " ms");
+    require(taken < limit, "loaded in under 100 ms of processor time", std::to_string(taken.count()) + " ms");
 }
 
 void loads_silently(const subject& given) {
@@ -110,7 +109,7 @@ constexpr check checks[] = {
     {"load.opens", "the library is loaded and has the bundle entry", opens},
     {"load.exports", "exactly the two names of the contract are exported", exports_two_names},
     {"load.unload", "twenty times loaded, started and unloaded, nothing grows", unloads_without_trace},
-    {"load.time", "loading takes less than 100 ms", loads_quickly},
+    {"load.time", "loading takes less than 100 ms of processor time", loads_quickly},
     {"load.silent", "loading shows no window, writes no file, says nothing", loads_silently},
 };
 

@@ -1,3 +1,6 @@
+#include <chrono>
+#include <thread>
+
 #include "border/call.h"
 #include "fault.h"
 #include "framework/factories.h"
@@ -32,8 +35,9 @@ void visit_factories(const void*, void*, const custom_pointer& visitor) {
 void reserved() {
     if (is(fault::throws)) throw 1;
     if (is(fault::crashes)) *static_cast<volatile int*>(nullptr) = 0;
-    static volatile bool ever = is(fault::hangs);
-    while (ever) continue;
+    static volatile bool ever = is(fault::hangs) || is(fault::sleeps);
+    while (ever)
+        if (is(fault::sleeps)) std::this_thread::sleep_for(std::chrono::hours(1));
 }
 
 constexpr auto table = make_slots(&context, &visit_factories, &reserved, &reserved, &reserved, &reserved);

@@ -1,13 +1,12 @@
 // The factories, in the order of the contract: a dialog without id, the utility, its dialog, the client.
 
-#include <chrono>
 #include <cstdio>
 #include <optional>
-#include <thread>
 
 #include "fault.h"
 #include "framework/local_factory.h"
 #include "framework/service_factory.h"
+#include "testing/processor_time.h"
 #include "toolkit/utility.h"
 #include "widget.h"
 
@@ -53,7 +52,8 @@ auto holders() {
 
 struct loading {
     loading() {
-        if (is(fault::slow_load)) std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        const auto start = processor_time();
+        while (is(fault::slow_load) && processor_time() - start < std::chrono::milliseconds(120)) continue;
         if (is(fault::noisy_load)) std::fputs("broken bundle: hello\n", stderr);
         if (is(fault::leaks_memory)) {
             char* volatile lost = new char[2000];

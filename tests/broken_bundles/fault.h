@@ -10,8 +10,9 @@ enum class fault {
     calls_empty_visitor,  ///< visitors whose object word is empty are called
     throws,               ///< out of a reserved entry
     crashes,              ///< in a reserved entry
-    hangs,                ///< in a reserved entry
-    slow_load,            ///< more than 100 ms
+    hangs,                ///< in a reserved entry, at work
+    sleeps,               ///< in a reserved entry, for ever
+    slow_load,            ///< more than 100 ms of processor time
     noisy_load,           ///< prints while it is loaded
     leaks_memory,         ///< each time it is loaded
     wrong_order,          ///< of factories
