@@ -7,7 +7,9 @@
 #include <random>
 #include <utility>
 
+#include "border/fault.h"
 #include "oxcheck/system/system.h"
+#include "testing/host_double/host_double.h"
 
 namespace oxcheck {
 
@@ -69,7 +71,7 @@ bool read_answer(const fs::path& file, outcome& found) {
     return true;
 }
 
-outcome judge(const check& what, const subject& given) {
+outcome verdict_of(const check& what, const subject& given) {
     try {
         what.run(given);
         return {};
@@ -80,6 +82,19 @@ outcome judge(const check& what, const subject& given) {
     } catch (...) {
         return {verdict::failed, "no exception leaves an entry", "an exception, " + last_note()};
     }
+}
+
+/// What the check finds, or what the bundle did meanwhile that no bundle may do.
+outcome judge(const check& what, const subject& given) {
+    ox::on_border_fault = [](const ox::border_fault& fault) {
+        host_double::complaints().push_back(std::string("the checker's own ") + fault.place + ", slot " +
+                                            std::to_string(fault.slot) + " threw: " + fault.what);
+    };
+    const outcome found = verdict_of(what, given);
+    const auto& complaints = host_double::complaints();
+    if (found.result == verdict::failed || complaints.empty()) return found;
+    return {verdict::failed, "no null where none belongs, and no exception at the border",
+            complaints.front()};
 }
 
 std::string last_words(const fs::path& folder) {

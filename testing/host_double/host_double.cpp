@@ -11,6 +11,17 @@ state the_host;
 state& host() { return the_host; }
 void reset() { the_host = state(); }
 
+std::vector<std::string>& complaints() {
+    static std::vector<std::string> all;
+    return all;
+}
+
+bool are_given(const char* function, std::initializer_list<const void*> arguments) {
+    if (std::ranges::find(arguments, nullptr) == arguments.end()) return true;
+    complaints().push_back(std::string(function) + " was handed null");
+    return false;
+}
+
 bool state::refuses(const std::string& call) {
     log.push_back(call);
     return counts_as_refused(call);
@@ -36,7 +47,7 @@ scene& state::add(std::wstring caption, std::wstring pj4, line pv) {
 
 void state::deliver(void* adapter_handle, const std::wstring& text) const {
     const auto* to = static_cast<const adapter*>(adapter_handle);
-    to->wide(text.c_str(), to->context);
+    to->wide(null_for_empty && text.empty() ? nullptr : text.c_str(), to->context);
 }
 
 int state::alive() const {

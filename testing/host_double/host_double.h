@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -28,6 +29,7 @@ struct scene {
     line pv;
     bool has_data = true;
     bool profile = true;
+    bool has_line = true;
 };
 
 struct adapter {
@@ -43,6 +45,9 @@ struct favourite {
 
 struct HOST_DOUBLE_API state {
     std::vector<std::unique_ptr<scene>> scenes;
+    bool has_project = true;
+    bool has_collection = true;   ///< of scenes, in the project
+    bool null_for_empty = false;  ///< empty texts are delivered as null
     int language = 50000;
     std::wstring executable = L"/nowhere/host";
     bool answer = true;                          ///< to questions
@@ -81,6 +86,12 @@ private:
 HOST_DOUBLE_API state& host();
 /// A fresh host; fails nothing, knows nothing.
 HOST_DOUBLE_API void reset();
+
+/// What no plug-in may do, since the process began: hand null to a function that was not made for it, or let
+/// an exception come as far as the border.
+HOST_DOUBLE_API std::vector<std::string>& complaints();
+/// Whether none of the arguments is null; else a complaint about `function`, which then does nothing.
+HOST_DOUBLE_API bool are_given(const char* function, std::initializer_list<const void*> arguments);
 
 /// Of ASCII texts, for the log.
 inline std::string narrow(const std::wstring& text) {
