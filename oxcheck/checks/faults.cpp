@@ -18,36 +18,67 @@ using texts = std::vector<std::wstring>;
 
 /// What one run with a refusing host came to.
 struct faulty_run {
-    std::size_t number;
+    std::size_t number;  ///< of the call that was refused, from 1; 0 for none
     const play& acted;
     std::string name() const {
         return "call " + std::to_string(number) + " (" + host().refused + ") refused";
     }
 };
 
+/// Runs the utility with call number `refuse` refused, and calls `look` after it. Answers how many calls
+/// there were that could have been.
+template <class Look>
+std::size_t run_with_fault(session& started, std::size_t refuse, Look look) {
+    script::set_stage();
+    host().refuse = refuse;
+    play acted(started);
+    acted.run();
+    const std::size_t calls = host().asked;
+    look(faulty_run{refuse, acted});
+    host_double::reset();
+    if (late_calls().empty()) forget_lent_objects();
+    return calls;
+}
+
 /// Runs the utility once with every call granted, then once for each of the calls with that one refused, and
-/// calls `look` after each of these runs.
+/// calls `look` after each of these runs. Only what a refusal brings about is a matter of these checks.
 template <class Look>
 void with_each_fault(const subject& given, Look look) {
-    script::set_stage();
     session started(given.bundle);
-    play(started).run();
-    const std::size_t calls = host().asked;
+    std::size_t calls = 0;
+    try {
+        calls = run_with_fault(started, 0, look);
+    } catch (const failure& found) {
+        throw no_occasion(std::string("it is so without a refusal: ") + found.what());
+    }
     if (calls == 0) throw no_occasion("the utility makes no call that the host can refuse");
     for (std::size_t k = 1; k <= calls; ++k) {
-        script::set_stage();
-        host().refuse = k;
         note("call " + std::to_string(k) + " of " + std::to_string(calls) + " is refused");
-        play acted(started);
-        acted.run();
-        look(faulty_run{k, acted});
-        host_double::reset();
-        if (late_calls().empty()) forget_lent_objects();
+        run_with_fault(started, k, look);
     }
 }
 
+/// The utility is none the worse for a refusal: the next run does as the first one did.
 void are_survived(const subject& given) {
-    with_each_fault(given, [](const faulty_run&) {});
+    session started(given.bundle);
+    std::string first, state, name;
+    const auto remember = [&](const faulty_run& run) {
+        if (run.number > 0)
+            name = run.name();
+        else
+            state = script::describe_host();
+    };
+    const std::size_t calls = run_with_fault(started, 0, remember);
+    if (calls == 0) throw no_occasion("the utility makes no call that the host can refuse");
+    first = state;
+    run_with_fault(started, 0, remember);
+    if (state != first) throw no_occasion("runs do not repeat themselves, without a refusal already");
+    for (std::size_t k = 1; k <= calls; ++k) {
+        note("call " + std::to_string(k) + " of " + std::to_string(calls) + " is refused");
+        run_with_fault(started, k, remember);
+        run_with_fault(started, 0, remember);
+        require(state == first, name + ", the next run as the first:\n" + first, state);
+    }
 }
 
 void leave_nothing_behind(const subject& given) {
@@ -130,7 +161,7 @@ void are_reported(const subject& given) {
 }
 
 constexpr check checks[] = {
-    {"faults.survived", "each refusal of the host is survived", are_survived},
+    {"faults.survived", "each refusal of the host is survived, and the next run does its work", are_survived},
     {"faults.objects", "nothing that was made in the host stays after a refusal", leave_nothing_behind},
     {"faults.brackets", "update brackets are closed after a refusal", leave_no_bracket_open},
     {"faults.scenes", "a refusal leaves no scene half changed", leave_scenes_whole},

@@ -83,6 +83,7 @@ void outlive_the_localizer(const subject& given) {
     script::set_stage();
     session started(given.bundle, {.with_localizer = true});
     if (started.localized.referent_.referrers.empty()) throw no_occasion("the bundle asks for no localizer");
+    utility_caption(started);
     started.localized.referent_.release_all();
     started.localized.asked.clear();
     const std::wstring own = utility_caption(started);
