@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <deque>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/anything.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/ask.h"

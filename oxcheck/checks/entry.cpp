@@ -1,7 +1,7 @@
 // The bundle entry and its table.
 
 #include "border/call.h"
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/anything.h"
 #include "oxcheck/stage/session.h"
 

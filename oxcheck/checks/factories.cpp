@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "border/interfaces/services.h"
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 

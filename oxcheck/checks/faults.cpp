@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "oxcheck/checks.h"
-#include "oxcheck/stage/brackets.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/play.h"
 
@@ -83,14 +82,13 @@ void are_survived(const subject& given) {
 
 void leave_nothing_behind(const subject& given) {
     with_each_fault(given, [](const faulty_run& run) {
-        for (const auto& [kind, number] : host().live)
-            if (kind != "bracket") require_equal(number, 0, run.name() + ", " + kind + " left:");
+        require(script::objects_left().empty(), run.name() + ", nothing left", script::objects_left());
     });
 }
 
 void leave_no_bracket_open(const subject& given) {
     with_each_fault(given, [](const faulty_run& run) {
-        const std::string fault = bracket_fault(host().log);
+        const std::string fault = script::bracket_fault();
         require(fault.empty(), run.name() + ", brackets as ever", fault);
     });
 }

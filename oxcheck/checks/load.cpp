@@ -4,7 +4,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/files/exports.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"

@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 #include "oxcheck/tree/element.h"

@@ -1,6 +1,6 @@
 // Lifetimes of the services.
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 

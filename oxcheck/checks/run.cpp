@@ -1,7 +1,6 @@
 // Running the utility in a host that works.
 
-#include "oxcheck/checks.h"
-#include "oxcheck/stage/brackets.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/play.h"
 
@@ -11,20 +10,13 @@ namespace {
 
 using host_double::host;
 
-std::string list_live() {
-    std::string text;
-    for (const auto& [kind, number] : host().live)
-        if (number != 0 && kind != "bracket") text += std::to_string(number) + " " + kind + " ";
-    return text;
-}
-
 void does_nothing_without_dialogs(const subject& given) {
     script::set_stage();
     const std::string before = script::describe_host();
     session started(given.bundle, {.attach_dialog_hosts = false});
     started.run();
     require(script::describe_host() == before, "an untouched host", script::describe_host());
-    require(list_live().empty(), "no object left in the host", list_live());
+    require(script::objects_left().empty(), "no object left in the host", script::objects_left());
 }
 
 void closes_its_brackets(const subject& given) {
@@ -32,7 +24,7 @@ void closes_its_brackets(const subject& given) {
     session started(given.bundle);
     play(started).run();
     if (!host().live.contains("bracket")) throw no_occasion("the utility changes no scene");
-    const std::string fault = bracket_fault(host().log);
+    const std::string fault = script::bracket_fault();
     require(fault.empty(), "each change within the bracket of its scene", fault);
 }
 
@@ -41,7 +33,7 @@ void gives_everything_back(const subject& given) {
     session started(given.bundle);
     for (int i = 0; i < 2; ++i) {
         play(started).run();
-        require(list_live().empty(), "no object left in the host", list_live());
+        require(script::objects_left().empty(), "no object left in the host", script::objects_left());
     }
 }
 

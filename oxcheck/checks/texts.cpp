@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/play.h"
 

@@ -17,21 +17,31 @@ namespace oxcheck {
 
 using ox::custom_pointer;
 
+/// Calls that came too late, by what was called.
+inline std::vector<std::string>& late_calls() {
+    static std::vector<std::string> calls;
+    return calls;
+}
+
 struct lent_object {
     virtual ~lent_object() = default;
     bool over = false;
 
     /// Whether a call comes after the time it was lent for; such calls are written down.
-    bool late(const char* what) const;
+    bool late(const char* what) const {
+        if (over) late_calls().push_back(what);
+        return over;
+    }
 };
 
-/// Calls that came too late, by what was called.
-std::vector<std::string>& late_calls();
-/// Frees what was lent so far. No bundle may be loaded.
-void forget_lent_objects();
-
 namespace detail {
-std::vector<std::unique_ptr<lent_object>>& lent_objects();
+inline std::vector<std::unique_ptr<lent_object>> lent_objects;
+}
+
+/// Frees what was lent so far. No bundle may be loaded, or none that was found to call too late.
+inline void forget_lent_objects() {
+    detail::lent_objects.clear();
+    detail::lent_objects.shrink_to_fit();
 }
 
 /// Lends a `Visitor` for as long as this lives.
@@ -41,7 +51,7 @@ public:
     lending() {
         auto made = std::make_unique<Visitor>();
         visitor_ = made.get();
-        detail::lent_objects().push_back(std::move(made));
+        detail::lent_objects.push_back(std::move(made));
     }
     ~lending() { visitor_->over = true; }
     lending(const lending&) = delete;

@@ -1,6 +1,7 @@
 #include "oxcheck/stage/script.h"
 
 #include <sstream>
+#include <string_view>
 
 namespace oxcheck::script {
 
@@ -38,6 +39,31 @@ std::string describe_host() {
     for (const double fraction : host().progress) text << "progress " << fraction << "\n";
     for (const std::string& line : host().log) text << line << "\n";
     return text.str();
+}
+
+std::string bracket_fault() {
+    std::string open;  // scene whose bracket is open
+    for (const std::string& line : host().log) {
+        const auto after = [&line](std::string_view word) { return line.substr(word.size()); };
+        if (line.starts_with("begin ")) {
+            if (!open.empty()) return "the bracket of " + after("begin ") + " begins within that of " + open;
+            open = after("begin ");
+        } else if (line.starts_with("end ")) {
+            if (open != after("end "))
+                return "the bracket of " + after("end ") + " ends without having begun";
+            open.clear();
+        } else if (line.starts_with("line ") || line.starts_with("text ")) {
+            if (open != after("line ")) return "a change of " + after("line ") + " outside its bracket";
+        }
+    }
+    return open.empty() ? "" : "the bracket of " + open + " stays open";
+}
+
+std::string objects_left() {
+    std::string text;
+    for (const auto& [kind, number] : host().live)
+        if (number != 0 && kind != "bracket") text += std::to_string(number) + " " + kind + " ";
+    return text;
 }
 
 }  // namespace oxcheck::script

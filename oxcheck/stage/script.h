@@ -1,5 +1,6 @@
 #pragma once
-/// The situation in which the bundle is tried: a project, and what files and codes the host knows.
+/// The situation in which the bundle is tried: a project, and what files and codes the host knows; and what
+/// has become of it.
 
 #include <string>
 
@@ -20,5 +21,12 @@ void set_stage(int language = english);
 
 /// Scenes, favourites, files and what was said, as text; two hosts in the same state give the same.
 std::string describe_host();
+
+/// The first thing wrong with update brackets: one within another, a change outside its scene's bracket, one
+/// left open or closed twice. Empty when all is well.
+std::string bracket_fault();
+
+/// Objects that were made in the host and not given back, brackets aside.
+std::string objects_left();
 
 }  // namespace oxcheck::script

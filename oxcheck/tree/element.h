@@ -67,10 +67,13 @@ void with_kind_of(const element& each, Use&& use) {
 /// out, as they are made anew each time a menu opens.
 std::vector<element> walk(custom_pointer docker, custom_pointer button_box);
 
+/// The tools that a menu makes for the host when it opens.
+std::vector<element> menu_tools(custom_pointer context_menu);
+
 /// The tools of a menu while it is open.
 class open_menu {
 public:
-    explicit open_menu(custom_pointer context_menu);
+    explicit open_menu(custom_pointer context_menu) : tools_(menu_tools(context_menu)) {}
     ~open_menu();  ///< detaches them, which ends them
     open_menu(const open_menu&) = delete;
     open_menu& operator=(const open_menu&) = delete;

@@ -118,13 +118,15 @@ std::vector<element> walk(custom_pointer docker, custom_pointer button_box) {
     return found.found;
 }
 
-open_menu::open_menu(custom_pointer context_menu) {
+std::vector<element> menu_tools(custom_pointer context_menu) {
+    std::vector<element> tools;
     lending<tool_sink> sink;
     ox::call<&ox::context_menu_impl::visit_tool_sets>(context_menu, sink.pointer());
     for (const received& set : sink->sets)
         ox::call<&ox::tool_set_impl::visit_tools>(set.pointer, sink.pointer());
     for (const received& tool : sink->tools)
-        tools_.push_back({name_of<ox::action_tool_impl>(), tool.pointer, tool.id, {}, true});
+        tools.push_back({name_of<ox::action_tool_impl>(), tool.pointer, tool.id, {}, true});
+    return tools;
 }
 
 open_menu::~open_menu() {

@@ -1,4 +1,4 @@
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 
 namespace oxcheck {
 
