@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "border/fault.h"
+#include "oxcheck/stage/script.h"
 #include "oxcheck/system/system.h"
-#include "testing/host_double/host_double.h"
 
 namespace oxcheck {
 
@@ -87,11 +87,12 @@ outcome verdict_of(const check& what, const subject& given) {
 /// What the check finds, or what the bundle did meanwhile that no bundle may do.
 outcome judge(const check& what, const subject& given) {
     ox::on_border_fault = [](const ox::border_fault& fault) {
-        host_double::complaints().push_back(std::string("the checker's own ") + fault.place + ", slot " +
-                                            std::to_string(fault.slot) + " threw: " + fault.what);
+        host_double::host().border_faults.push_back(std::string("the checker's own ") + fault.place +
+                                                    ", slot " + std::to_string(fault.slot) + ": " +
+                                                    fault.what);
     };
     const outcome found = verdict_of(what, given);
-    const auto& complaints = host_double::complaints();
+    const auto complaints = script::complaints();
     if (found.result == verdict::failed || complaints.empty()) return found;
     return {verdict::failed, "no null where none belongs, and no exception at the border",
             complaints.front()};

@@ -34,7 +34,7 @@ std::size_t run_with_fault(session& started, std::size_t refuse, Look look) {
     acted.run();
     const std::size_t calls = host().asked;
     look(faulty_run{refuse, acted});
-    host_double::reset();
+    script::clear_stage();
     if (late_calls().empty()) forget_lent_objects();
     return calls;
 }

@@ -57,7 +57,7 @@ void grows_no_memory(const subject& given) {
     for (int i = 0; i < 3 * interval; ++i) {
         script::set_stage();
         play(started).run();
-        host_double::reset();
+        script::clear_stage();
         if (late_calls().empty()) forget_lent_objects();
         if (i % interval == interval - 1) heap[i / interval] = system::count_holdings().heap;
     }

@@ -7,8 +7,31 @@ namespace oxcheck::script {
 
 using host_double::host;
 
-void set_stage(int language) {
+namespace {
+
+/// Of the hosts before this one.
+std::vector<std::string>& earlier_complaints() {
+    static std::vector<std::string> all;
+    return all;
+}
+
+}  // namespace
+
+std::vector<std::string> complaints() {
+    std::vector<std::string> all = earlier_complaints();
+    for (const std::string& function : host().given_null) all.push_back(function + " was handed null");
+    for (const std::string& fault : host().border_faults)
+        all.push_back("an exception came as far as the border of " + fault);
+    return all;
+}
+
+void clear_stage() {
+    earlier_complaints() = complaints();
     host_double::reset();
+}
+
+void set_stage(int language) {
+    clear_stage();
     host().language = language;
     host().scenes_refuse = true;
     host().add(L"Line 1", L"+proj=longlat +datum=WGS84", {{37, 55}, {38, 56}});

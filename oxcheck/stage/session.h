@@ -61,6 +61,7 @@ public:
     const std::vector<service>& services() const { return services_; }
     /// The utility of the bundle; throws `no_occasion` when it has none.
     custom_pointer utility() const;
+    bool has_utility() const;
     /// Starts the utility; throws what was thrown while its dialogs were shown.
     void run();
 

@@ -44,10 +44,12 @@ struct favourite {
 };
 
 struct HOST_DOUBLE_API state {
-    std::vector<std::unique_ptr<scene>> scenes;
-    bool has_project = true;
-    bool has_collection = true;   ///< of scenes, in the project
-    bool null_for_empty = false;  ///< empty texts are delivered as null
+    bool project_open = true;
+    bool project_has_scenes = true;
+    bool makes_adapters = true;
+    bool makes_favourites = true;
+    bool null_for_empty = false;                 ///< empty texts are delivered as null
+    std::vector<std::unique_ptr<scene>> scenes;  ///< a null one is a scene that the host does not hand out
     int language = 50000;
     std::wstring executable = L"/nowhere/host";
     bool answer = true;                          ///< to questions
@@ -60,6 +62,10 @@ struct HOST_DOUBLE_API state {
     std::vector<std::wstring> messages, errors, questions;
     std::vector<double> progress;
     std::map<std::string, int> live;  ///< objects by kind
+
+    /// What no plug-in may do: functions that were handed a null which they are not made for, and exceptions
+    /// that came as far as a border.
+    std::vector<std::string> given_null, border_faults;
 
     /// The host's calls that may refuse are counted; number `refuse` (from 1) does.
     std::size_t refuse = 0;
@@ -87,10 +93,7 @@ HOST_DOUBLE_API state& host();
 /// A fresh host; fails nothing, knows nothing.
 HOST_DOUBLE_API void reset();
 
-/// What no plug-in may do, since the process began: hand null to a function that was not made for it, or let
-/// an exception come as far as the border.
-HOST_DOUBLE_API std::vector<std::string>& complaints();
-/// Whether none of the arguments is null; else a complaint about `function`, which then does nothing.
+/// Whether none of the arguments is null; else `function` takes that down, and does nothing.
 HOST_DOUBLE_API bool are_given(const char* function, std::initializer_list<const void*> arguments);
 
 /// Of ASCII texts, for the log.

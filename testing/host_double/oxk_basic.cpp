@@ -7,6 +7,7 @@ using host_double::host;
 
 void* ox_string_adp_create(void (*narrow)(const char*, void*), void (*wide)(const wchar_t*, void*),
                            void* context) {
+    if (!host().makes_adapters) return nullptr;
     ++host().live["adapter"];
     return new host_double::adapter{narrow, wide, context};
 }

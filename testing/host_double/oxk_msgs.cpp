@@ -31,6 +31,5 @@ void ox_progress_destroy(void* progress) {
 }
 
 void ox_border_fault(const char* place, std::uint32_t slot, const char* what) {
-    host_double::complaints().push_back(std::string(place) + ", slot " + std::to_string(slot) +
-                                        ": an exception came as far as the border: " + what);
+    host().border_faults.push_back(std::string(place) + ", slot " + std::to_string(slot) + ": " + what);
 }

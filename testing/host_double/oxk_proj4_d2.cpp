@@ -64,6 +64,7 @@ void ox_pj4_save_simple_w(const wchar_t* path, const wchar_t* proj4) { save(__fu
 void ox_pj4_export_esri_prj(const wchar_t* proj4, const wchar_t* path) { save(__func__, "prj", path, proj4); }
 
 void* ox_pj4_fav_list_create(void) {
+    if (!host().makes_favourites) return nullptr;
     ++host().live["favourites"];
     return new favourite_items;
 }

@@ -16,9 +16,7 @@ std::uint32_t ox_scns_2d_get_size(void* collection) {
 }
 void* ox_scns_2d_get(void* collection, std::uint32_t index) {
     if (!are_given(__func__, {collection})) return nullptr;
-    if (index < scenes(collection).size()) return scenes(collection)[index].get();
-    host_double::complaints().push_back(std::string(__func__) + " was asked beyond the last scene");
-    return nullptr;
+    return scenes(collection).at(index).get();
 }
 void ox_scn_2d_get_wcaption(void* handle, void* adapter) {
     if (are_given(__func__, {handle, adapter})) host().deliver(adapter, scene_of(handle).caption);
