@@ -1,10 +1,10 @@
 // Every call of the host that can refuse does so once, one after the other.
 
-#include <algorithm>
 #include <set>
 
 #include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
+#include "oxcheck/stage/words.h"
 #include "oxcheck/tree/play.h"
 
 namespace oxcheck {
@@ -13,12 +13,12 @@ namespace {
 
 using host_double::host;
 using host_double::narrow;
-using texts = std::vector<std::wstring>;
 
 /// What one run with a refusing host came to.
 struct faulty_run {
     std::size_t number;  ///< of the call that was refused, from 1; 0 for none
     const play& acted;
+    const session& started;
     std::string name() const {
         return "call " + std::to_string(number) + " (" + host().refused + ") refused";
     }
@@ -33,7 +33,7 @@ std::size_t run_with_fault(session& started, std::size_t refuse, Look look) {
     play acted(started);
     acted.run();
     const std::size_t calls = host().asked;
-    look(faulty_run{refuse, acted});
+    look(faulty_run{refuse, acted, started});
     script::clear_stage();
     if (late_calls().empty()) forget_lent_objects();
     return calls;
@@ -105,24 +105,6 @@ void leave_scenes_whole(const subject& given) {
     });
 }
 
-// The utility of this contract whose very words are known; of others only the kind of message counts.
-constexpr const wchar_t* worded_utility = L"oxk_scn2d_prf_reproj";
-constexpr const wchar_t* bad_settings = L"Incorrect reprojection settings";
-constexpr const wchar_t* reprojection_error = L"Reprojection error";
-constexpr const wchar_t* reprojection_complete = L"Reprojection complete";
-
-struct said {
-    texts messages, errors;
-    bool operator==(const said&) const = default;
-};
-
-std::string describe(const said& heard) {
-    std::string text;
-    for (const std::wstring& each : heard.messages) text += "message \"" + narrow(each) + "\" ";
-    for (const std::wstring& each : heard.errors) text += "error \"" + narrow(each) + "\" ";
-    return text.empty() ? "nothing" : text;
-}
-
 /// What the run must say. Only the run over the scenes reports its failures; a dialog that cannot do its work
 /// stays silent, and progress is a luxury.
 said expected_words(const play& acted) {
@@ -135,26 +117,10 @@ said expected_words(const play& acted) {
 }
 
 void are_reported(const subject& given) {
-    bool worded = false;
-    {
-        script::set_stage();
-        session started(given.bundle);
-        play first(started);
-        first.run();
-        const bool progress = std::ranges::any_of(
-            host().log, [](const std::string& line) { return line.starts_with("progress"); });
-        if (!progress || host().messages.empty())
-            throw no_occasion("the utility shows no progress or does not report success");
-        for (const service& each : started.services()) worded = worded || each.id == worded_utility;
-    }
-    with_each_fault(given, [worded](const faulty_run& run) {
-        said expected = expected_words(run.acted);
-        said heard{host().messages, host().errors};
-        if (!worded) {  // count only
-            for (said* each : {&expected, &heard})
-                for (texts* list : {&each->messages, &each->errors}) std::ranges::fill(*list, L"any");
-        }
-        require(heard == expected, run.name() + ", " + describe(expected), describe(heard));
+    with_each_fault(given, [](const faulty_run& run) {
+        const said expected = expected_words(run.acted).as_known_in(run.started);
+        const said came = heard().as_known_in(run.started);
+        require(came == expected, run.name() + ", " + describe(expected), describe(came));
     });
 }
 

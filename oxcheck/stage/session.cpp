@@ -82,6 +82,14 @@ bool session::has_utility() const {
         return each.what == publication::kind::utility && each.served;
     });
 }
+bool session::has_dialog_of_utility() const {
+    for (const service& utility : services_)
+        for (const service& dialog : services_)
+            if (utility.what == publication::kind::utility && dialog.what != utility.what &&
+                dialog.id == utility.id)
+                return true;
+    return false;
+}
 
 void session::run() {
     ox::call<&ox::utility_impl::run>(utility());
