@@ -38,7 +38,10 @@ std::span<const check> factory_checks();
 std::span<const check> pointer_checks();
 std::span<const check> referent_checks();
 std::span<const check> element_checks();
+std::span<const check> table_checks();
+std::span<const check> element_null_checks();
 std::span<const check> text_checks();
+std::span<const check> text_null_checks();
 std::span<const check> run_checks();
 std::span<const check> fault_checks();
 

@@ -98,6 +98,41 @@ void change_views(const subject& given) {
     require_equal(current.calls() - heard, std::size_t{0}, "calls of views that were detached:");
 }
 
+/// Entries of menus: some are given a view and kept beyond the dialog, some are detached before, some never
+/// get a view and end with their menu.
+void outlive_their_menu(const subject& given) {
+    static anything view;
+    script::set_stage();
+    session started(given.bundle);
+    std::vector<element> kept;
+    play acted(started);
+    acted.on_dialog = [&kept](const std::vector<element>& dialog, int) {
+        for (const element& each : dialog) {
+            if (!each.is<ox::context_menu_impl>()) continue;
+            menu_tools(each.pointer);
+            for (const bool keeps : {true, false})
+                for (const element& entry : menu_tools(each.pointer)) {
+                    attach(entry, view.pointer());
+                    if (keeps) kept.push_back(entry);
+                    if (!keeps) attach(entry, custom_pointer{});
+                }
+        }
+    };
+    acted.run();
+    if (kept.empty()) throw no_occasion("no dialog has a menu with entries");
+    const std::string before = script::describe_host();
+    for (const element& entry : kept) {
+        note("at an entry whose dialog is closed");
+        ox::call<&ox::action_tool_impl::enabled>(entry.pointer);
+        read_text(
+            [&](custom_pointer v) { ox::call<&ox::action_tool_impl::visit_caption>(entry.pointer, v); });
+        ox::call<&ox::action_tool_impl::click>(entry.pointer);
+        attach(entry, custom_pointer{});
+    }
+    require(script::describe_host() == before, "entries of a closed dialog leave the host alone",
+            script::describe_host());
+}
+
 void keep_no_visitor(const subject& given) {
     script::set_stage();
     {
@@ -140,6 +175,8 @@ constexpr check checks[] = {
     {"elements.answer", "every element answers all its operations, for its whole count", answer_everything},
     {"elements.empty", "empty visitors, views and items are accepted everywhere", bear_empty_neighbours},
     {"elements.views", "views come, are replaced and go at any time", change_views},
+    {"elements.menu_entries", "menu entries with a view belong to the host, also after their dialog",
+     outlive_their_menu},
     {"elements.lent_visitors", "no visitor is called after the call it was lent for", keep_no_visitor},
     {"elements.lent_texts", "texts that are handed in are copied", copy_texts},
 };
