@@ -38,6 +38,8 @@ std::span<const check> factory_checks();
 std::span<const check> pointer_checks();
 std::span<const check> referent_checks();
 std::span<const check> element_checks();
+std::span<const check> coherence_checks();
+std::span<const check> notification_checks();
 std::span<const check> table_checks();
 std::span<const check> element_null_checks();
 std::span<const check> text_checks();

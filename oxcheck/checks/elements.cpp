@@ -58,17 +58,7 @@ void bear_empty_neighbours(const subject& given) {
     ask_all(given, [](std::uint32_t) { return custom_pointer{}; });
 }
 
-void attach(const element& each, custom_pointer view) {
-    const custom_pointer p = each.pointer;
-    const auto to = [&]<class I>() {
-        if constexpr (requires { &I::attach_view; }) ox::call<&I::attach_view>(p, view);
-        if constexpr (std::is_same_v<I, ox::button_box_impl>) {
-            ox::call<&I::attach_first_view>(p, view);
-            ox::call<&I::attach_second_view>(p, view);
-        }
-    };
-    with_kind_of(each, to);
-}
+void attach(const element& each, custom_pointer view) { attach_views(each, view, view); }
 
 /// Each dialog is acted on with views that come, are replaced and go; only the current ones may hear of it.
 void change_views(const subject& given) {

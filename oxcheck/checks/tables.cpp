@@ -13,16 +13,6 @@ namespace {
 
 using host_double::host;
 
-/// Takes down the row of the item that it is given; the root, which is no row, takes down nothing.
-struct row_sink final : ox::outline_item_index_visitor_impl, lent_object {
-    using interface = ox::outline_item_index_visitor_impl;
-    std::string row = "none";
-    void visit(custom_pointer item) override {
-        if (!late("an outline item visitor") && item)
-            row = std::to_string(ox::call<&ox::outline_item_index_impl::row>(item));
-    }
-};
-
 /// A table with its columns and check boxes, asked about one item.
 class inquiry {
 public:
@@ -58,9 +48,8 @@ public:
     }
 
     std::string current_row() const {
-        lending<row_sink> sink;
-        ox::call<&ox::outline_impl::visit_current_item>(table_, sink.pointer());
-        return sink->row;
+        const auto row = current_row_of(table_);
+        return row ? std::to_string(*row) : "none";
     }
 
 private:

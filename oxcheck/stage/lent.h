@@ -3,9 +3,11 @@
 /// calls it later is found out instead of crashing.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "border/call.h"
 #include "border/interfaces/dialogs.h"
 #include "border/interfaces/layouts.h"
 #include "border/interfaces/outlines.h"
@@ -126,6 +128,14 @@ struct checks_sink final : ox::outline_checks_visitor_impl, lent_object {
     std::vector<received> all;
     void visit(custom_pointer checks) override {
         if (!late("an outline checks visitor")) all.push_back({{}, checks});
+    }
+};
+
+struct item_sink final : ox::outline_item_index_visitor_impl, lent_object {
+    using interface = ox::outline_item_index_visitor_impl;
+    std::optional<std::uint32_t> row;  ///< none of the root
+    void visit(custom_pointer item) override {
+        if (!late("an outline item visitor") && item) row = ox::call<&ox::outline_item_index_impl::row>(item);
     }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 /// What a bundle hands out, as pointers with a known kind, and the walk that finds all of it behind a dialog.
 
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -82,6 +83,15 @@ public:
 private:
     std::vector<element> tools_;
 };
+
+/// What stands in a cell of a grid: one element, or nothing.
+std::vector<element> cell_of(custom_pointer grid, std::int32_t column, std::int32_t row);
+
+/// The row that is an outline's current one, if there is any.
+std::optional<std::uint32_t> current_row_of(custom_pointer outline);
+
+/// Attaches a view to an element of a kind that has one; a button box has two.
+void attach_views(const element& each, custom_pointer view, custom_pointer second_of_box);
 
 /// The captions and hints that an element shows, without the content that users change.
 std::vector<std::wstring> captions_of(const element& each);
