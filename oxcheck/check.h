@@ -31,7 +31,23 @@ struct check {
     void (*run)(const subject&);
 };
 
-/// The checks in the order in which they are reported.
+/// The groups of checks; each lists its own.
+std::span<const check> load_checks();
+std::span<const check> entry_checks();
+std::span<const check> factory_checks();
+std::span<const check> pointer_checks();
+std::span<const check> referent_checks();
+std::span<const check> element_checks();
+std::span<const check> coherence_checks();
+std::span<const check> notification_checks();
+std::span<const check> table_checks();
+std::span<const check> element_null_checks();
+std::span<const check> text_checks();
+std::span<const check> text_null_checks();
+std::span<const check> run_checks();
+std::span<const check> fault_checks();
+
+/// All of them, in the order in which they are reported.
 std::vector<check> all_checks();
 
 /// Thrown by a check that fails.

@@ -5,7 +5,10 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <utility>
 
+#include "border/fault.h"
+#include "oxcheck/stage/script.h"
 #include "oxcheck/system/system.h"
 
 namespace oxcheck {
@@ -68,7 +71,7 @@ bool read_answer(const fs::path& file, outcome& found) {
     return true;
 }
 
-outcome judge(const check& what, const subject& given) {
+outcome verdict_of(const check& what, const subject& given) {
     try {
         what.run(given);
         return {};
@@ -81,11 +84,63 @@ outcome judge(const check& what, const subject& given) {
     }
 }
 
+/// What the check finds, or what the bundle did meanwhile that no bundle may do.
+outcome judge(const check& what, const subject& given) {
+    ox::on_border_fault = [](const ox::border_fault& fault) {
+        host_double::host().border_faults.push_back(std::string("the checker's own ") + fault.place +
+                                                    ", slot " + std::to_string(fault.slot) + ": " +
+                                                    fault.what);
+    };
+    const outcome found = verdict_of(what, given);
+    const auto complaints = script::complaints();
+    if (found.result == verdict::failed || complaints.empty()) return found;
+    return {verdict::failed, "no null where none belongs, and no exception at the border",
+            complaints.front()};
+}
+
 std::string last_words(const fs::path& folder) {
     const std::string doing = read(folder / notes);
     std::string said = read(folder / output);
     if (said.size() > 2000) said.erase(0, said.size() - 2000);
     return (doing.empty() ? "" : ", " + doing) + (said.empty() ? "" : "; it printed: " + said);
+}
+
+struct life {
+    bool well_ended;
+    std::string end;
+};
+
+/// Follows a child to its end. It may use the processor for `limit`, or not at all in as many milliseconds of
+/// watching it: more is a hang, however busy the machine is.
+life watch(system::child& process, std::chrono::milliseconds limit) {
+    constexpr std::chrono::milliseconds shortest(2), longest(16);
+    auto patience = shortest, idle = 0 * shortest;
+    auto used = process.processor_time();
+    for (;;) {
+        if (const auto end = process.wait(patience)) {
+            if (end->how == system::ending::kind::crashed)
+                return {false, "a crash (" + end->description + ")"};
+            return {end->code == 0, "the process ended by itself with code " + std::to_string(end->code)};
+        }
+        const auto before = std::exchange(used, std::max(used, process.processor_time()));
+        const bool works = used > before;
+        idle = works ? 0 * idle : idle + patience;
+        patience = works ? shortest : std::min(longest, 2 * patience);
+        const std::string hang = "a hang (no end after " + std::to_string(limit.count()) + " ms ";
+        if (used >= limit) return {false, hang + "of processor time)"};
+        if (idle >= limit) return {false, hang + "without any work)"};
+    }
+}
+
+/// What did not start has done nothing, so it is tried again: where addresses are random, Wine now and then
+/// loses a process before its first instruction.
+life live(const std::vector<fs::path>& arguments, const fs::path& folder, std::chrono::milliseconds limit) {
+    for (int tries = 3;;) try {
+            system::child process(arguments, folder / work, folder / output);
+            return watch(process, limit);
+        } catch (const std::runtime_error& reason) {
+            if (--tries == 0) return {false, std::string("no process (") + reason.what() + ")"};
+        }
 }
 
 }  // namespace
@@ -100,32 +155,10 @@ const std::string& last_note() { return current_note(); }
 outcome run_in_child(const check& what, const fs::path& bundle, std::chrono::milliseconds limit) {
     const temporary_folder folder;
     fs::create_directory(folder.path() / work);
-    using ended = system::ending::kind;
-    system::ending end;
-    // What did not start has done nothing, so it may be tried again: under address randomisation Wine now
-    // and then loses a process before its first instruction.
-    for (int tries = 3; tries > 0 && end.how == ended::not_started; --tries)
-        end = system::run_self({child_option, what.name, bundle, folder.path()}, folder.path() / work,
-                               folder.path() / output, limit);
+    const life lived = live({child_option, what.name, bundle, folder.path()}, folder.path(), limit);
     outcome found;
-    if (end.how == ended::exited && end.code == 0 && read_answer(folder.path() / answer, found)) return found;
-    found = {verdict::failed, what.claim, {}};
-    switch (end.how) {
-        case ended::exited:
-            found.got = "the process ended by itself with code " + std::to_string(end.code);
-            break;
-        case ended::crashed:
-            found.got = "a crash (" + end.description + ")";
-            break;
-        case ended::timed_out:
-            found.got = "a hang (" + end.description + ")";
-            break;
-        case ended::not_started:
-            found.got = "no process (" + end.description + ")";
-            break;
-    }
-    found.got += last_words(folder.path());
-    return found;
+    if (lived.well_ended && read_answer(folder.path() / answer, found)) return found;
+    return {verdict::failed, what.claim, lived.end + last_words(folder.path())};
 }
 
 int run_as_child(const std::string& name, const fs::path& bundle, const fs::path& folder) {

@@ -11,7 +11,7 @@ namespace oxcheck {
 inline constexpr const char* child_option = "--child";
 
 /// The parent's side: runs the check in a process and folder of its own. One that dies, hangs or says nothing
-/// has failed.
+/// has failed; `limit` is the processor time that it may take, and how long it may stand still.
 outcome run_in_child(const check& what, const std::filesystem::path& bundle, std::chrono::milliseconds limit);
 
 /// The child's side; the answer is left in `folder`. Returns only when there is no such check.

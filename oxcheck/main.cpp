@@ -1,11 +1,13 @@
 /// oxcheck: checks a bundle from outside, with a host of its own whose every answer is scripted.
 
 #include <algorithm>
+#include <charconv>
+#include <chrono>
 #include <fstream>
 #include <iostream>
+#include <optional>
 
 #include "oxcheck/child.h"
-#include "oxcheck/options.h"
 #include "oxcheck/report.h"
 #include "oxcheck/system/system.h"
 
@@ -13,6 +15,64 @@ namespace oxcheck {
 namespace {
 
 namespace fs = std::filesystem;
+
+struct usage_error : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+struct options {
+    fs::path bundle;
+    std::optional<fs::path> json;
+    std::vector<std::string> only;  ///< names of checks or groups; empty is all
+    std::chrono::milliseconds limit{20000};
+    bool list = false;
+    bool help = false;
+};
+
+constexpr const char* usage_text =
+    "usage: oxcheck BUNDLE [--json FILE] [--only NAME]... [--seconds N]\n"
+    "       oxcheck --list\n"
+    "Checks the binary contract of a bundle. NAME is a check or a group of checks, as --list shows\n"
+    "them; N is the processor time that each check may take, and how long it may stand still.\n"
+    "Exit codes: 0 nothing failed, 1 a check failed, 64 wrong usage, 66 the bundle cannot be read.\n";
+
+std::chrono::milliseconds seconds(const std::string& text) {
+    unsigned number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || number == 0 || number > 3600)
+        throw usage_error("--seconds takes a whole number from 1 to 3600, not \"" + text + "\"");
+    return std::chrono::seconds(number);
+}
+
+/// Throws `usage_error`.
+options parse_options(const std::vector<fs::path>& arguments) {
+    options chosen;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string word = arguments[i].string();
+        const auto value = [&]() -> const fs::path& {
+            if (i + 1 == arguments.size()) throw usage_error(word + " needs a value");
+            return arguments[++i];
+        };
+        if (word == "--list")
+            chosen.list = true;
+        else if (word == "--help")
+            chosen.help = true;
+        else if (word == "--json")
+            chosen.json = value();
+        else if (word == "--only")
+            chosen.only.push_back(value().string());
+        else if (word == "--seconds")
+            chosen.limit = seconds(value().string());
+        else if (word.starts_with("--"))
+            throw usage_error("unknown option " + word);
+        else if (!chosen.bundle.empty())
+            throw usage_error("one bundle at a time, not also " + word);
+        else
+            chosen.bundle = arguments[i];
+    }
+    if (chosen.bundle.empty() && !chosen.list && !chosen.help) throw usage_error("no bundle given");
+    return chosen;
+}
 
 enum exit_code { nothing_failed = 0, check_failed = 1, wrong_usage = 64, unreadable = 66, not_written = 73 };
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <deque>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/anything.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/ask.h"
@@ -58,17 +58,7 @@ void bear_empty_neighbours(const subject& given) {
     ask_all(given, [](std::uint32_t) { return custom_pointer{}; });
 }
 
-void attach(const element& each, custom_pointer view) {
-    const custom_pointer p = each.pointer;
-    const auto to = [&]<class I>() {
-        if constexpr (requires { &I::attach_view; }) ox::call<&I::attach_view>(p, view);
-        if constexpr (std::is_same_v<I, ox::button_box_impl>) {
-            ox::call<&I::attach_first_view>(p, view);
-            ox::call<&I::attach_second_view>(p, view);
-        }
-    };
-    with_kind_of(each, to);
-}
+void attach(const element& each, custom_pointer view) { attach_views(each, view, view); }
 
 /// Each dialog is acted on with views that come, are replaced and go; only the current ones may hear of it.
 void change_views(const subject& given) {
@@ -96,6 +86,41 @@ void change_views(const subject& given) {
     acted.run();
     if (detached == 0) throw no_occasion("the utility shows no dialog");
     require_equal(current.calls() - heard, std::size_t{0}, "calls of views that were detached:");
+}
+
+/// Entries of menus: some are given a view and kept beyond the dialog, some are detached before, some never
+/// get a view and end with their menu.
+void outlive_their_menu(const subject& given) {
+    static anything view;
+    script::set_stage();
+    session started(given.bundle);
+    std::vector<element> kept;
+    play acted(started);
+    acted.on_dialog = [&kept](const std::vector<element>& dialog, int) {
+        for (const element& each : dialog) {
+            if (!each.is<ox::context_menu_impl>()) continue;
+            menu_tools(each.pointer);
+            for (const bool keeps : {true, false})
+                for (const element& entry : menu_tools(each.pointer)) {
+                    attach(entry, view.pointer());
+                    if (keeps) kept.push_back(entry);
+                    if (!keeps) attach(entry, custom_pointer{});
+                }
+        }
+    };
+    acted.run();
+    if (kept.empty()) throw no_occasion("no dialog has a menu with entries");
+    const std::string before = script::describe_host();
+    for (const element& entry : kept) {
+        note("at an entry whose dialog is closed");
+        ox::call<&ox::action_tool_impl::enabled>(entry.pointer);
+        read_text(
+            [&](custom_pointer v) { ox::call<&ox::action_tool_impl::visit_caption>(entry.pointer, v); });
+        ox::call<&ox::action_tool_impl::click>(entry.pointer);
+        attach(entry, custom_pointer{});
+    }
+    require(script::describe_host() == before, "entries of a closed dialog leave the host alone",
+            script::describe_host());
 }
 
 void keep_no_visitor(const subject& given) {
@@ -140,6 +165,8 @@ constexpr check checks[] = {
     {"elements.answer", "every element answers all its operations, for its whole count", answer_everything},
     {"elements.empty", "empty visitors, views and items are accepted everywhere", bear_empty_neighbours},
     {"elements.views", "views come, are replaced and go at any time", change_views},
+    {"elements.menu_entries", "menu entries with a view belong to the host, also after their dialog",
+     outlive_their_menu},
     {"elements.lent_visitors", "no visitor is called after the call it was lent for", keep_no_visitor},
     {"elements.lent_texts", "texts that are handed in are copied", copy_texts},
 };

@@ -1,7 +1,7 @@
 // The bundle entry and its table.
 
 #include "border/call.h"
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/anything.h"
 #include "oxcheck/stage/session.h"
 
@@ -62,18 +62,18 @@ void has_harmless_reserved_entries(const subject& given) {
 void answers_no_context_request(const subject& given) {
     const bundle loaded(given.bundle);
     int argument = 0;
-    const custom_pointer entered = loaded.enter(&argument);
+    const void* table = loaded.enter(&argument).table;
     const custom_pointer context = ox::detail::function_at<custom_pointer (*)(const void*, void*)>(
-        entered, 0)(entered.table, entered.object);
+        {table, &argument}, 0)(table, &argument);
     require(context.table != nullptr, "a context table", "null");
     require(context.object == &argument, "the context of the given object", "another object");
     using query = void (*)(const void*, void*, const char*, const void**, void**);
     for (const char* name :
          {"ox_bundle_context_interface_1", "ox_bundle_interface_1", "ox_referent_interface_1", ""}) {
-        const void* table = &argument;
-        void* object = &argument;
-        static_cast<const query*>(context.table)[0](context.table, context.object, name, &table, &object);
-        require(!table && !object, std::string("nothing for \"") + name + "\"", "an answer");
+        custom_pointer answer{&argument, &argument};
+        static_cast<const query*>(context.table)[0](context.table, context.object, name, &answer.table,
+                                                    &answer.object);
+        require(!answer.table && !answer.object, std::string("nothing for \"") + name + "\"", "an answer");
     }
 }
 

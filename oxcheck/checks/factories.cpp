@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "border/interfaces/services.h"
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 
@@ -71,11 +71,15 @@ void come_in_order(const subject& given) {
 
 void stay_the_same(const subject& given) {
     const bundle loaded(given.bundle);
-    const std::vector<received> first = loaded.factories(), second = loaded.factories();
-    require_equal(second.size(), first.size(), "factories at the second visit:");
-    for (std::size_t i = 0; i < first.size(); ++i)
-        require(first[i].id == second[i].id && first[i].pointer == second[i].pointer,
-                "the same factory in place " + std::to_string(i + 1), "another one");
+    const std::vector<received> first = loaded.factories();
+    for (int visit = 2; visit <= 4; ++visit) {
+        const std::vector<received> again = loaded.factories();
+        const std::string at = " at visit " + std::to_string(visit);
+        require_equal(again.size(), first.size(), "factories" + at + ":");
+        for (std::size_t i = 0; i < first.size(); ++i)
+            require(first[i].id == again[i].id && first[i].pointer == again[i].pointer,
+                    "the same factory in place " + std::to_string(i + 1) + at, "another one");
+    }
 }
 
 void create_once(const subject& given) {

@@ -1,11 +1,10 @@
 // Every call of the host that can refuse does so once, one after the other.
 
-#include <algorithm>
 #include <set>
 
-#include "oxcheck/checks.h"
-#include "oxcheck/stage/brackets.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
+#include "oxcheck/stage/words.h"
 #include "oxcheck/tree/play.h"
 
 namespace oxcheck {
@@ -14,52 +13,82 @@ namespace {
 
 using host_double::host;
 using host_double::narrow;
-using texts = std::vector<std::wstring>;
 
 /// What one run with a refusing host came to.
 struct faulty_run {
-    std::size_t number;
+    std::size_t number;  ///< of the call that was refused, from 1; 0 for none
     const play& acted;
+    const session& started;
     std::string name() const {
         return "call " + std::to_string(number) + " (" + host().refused + ") refused";
     }
 };
 
+/// Runs the utility with call number `refuse` refused, and calls `look` after it. Answers how many calls
+/// there were that could have been.
+template <class Look>
+std::size_t run_with_fault(session& started, std::size_t refuse, Look look) {
+    script::set_stage();
+    host().refuse = refuse;
+    play acted(started);
+    acted.run();
+    const std::size_t calls = host().asked;
+    look(faulty_run{refuse, acted, started});
+    script::clear_stage();
+    if (late_calls().empty()) forget_lent_objects();
+    return calls;
+}
+
 /// Runs the utility once with every call granted, then once for each of the calls with that one refused, and
-/// calls `look` after each of these runs.
+/// calls `look` after each of these runs. Only what a refusal brings about is a matter of these checks.
 template <class Look>
 void with_each_fault(const subject& given, Look look) {
-    script::set_stage();
     session started(given.bundle);
-    play(started).run();
-    const std::size_t calls = host().asked;
+    std::size_t calls = 0;
+    try {
+        calls = run_with_fault(started, 0, look);
+    } catch (const failure& found) {
+        throw no_occasion(std::string("it is so without a refusal: ") + found.what());
+    }
     if (calls == 0) throw no_occasion("the utility makes no call that the host can refuse");
     for (std::size_t k = 1; k <= calls; ++k) {
-        script::set_stage();
-        host().refuse = k;
         note("call " + std::to_string(k) + " of " + std::to_string(calls) + " is refused");
-        play acted(started);
-        acted.run();
-        look(faulty_run{k, acted});
-        host_double::reset();
-        if (late_calls().empty()) forget_lent_objects();
+        run_with_fault(started, k, look);
     }
 }
 
+/// The utility is none the worse for a refusal: the next run does as the first one did.
 void are_survived(const subject& given) {
-    with_each_fault(given, [](const faulty_run&) {});
+    session started(given.bundle);
+    std::string first, state, name;
+    const auto remember = [&](const faulty_run& run) {
+        if (run.number > 0)
+            name = run.name();
+        else
+            state = script::describe_host();
+    };
+    const std::size_t calls = run_with_fault(started, 0, remember);
+    if (calls == 0) throw no_occasion("the utility makes no call that the host can refuse");
+    first = state;
+    run_with_fault(started, 0, remember);
+    if (state != first) throw no_occasion("runs do not repeat themselves, without a refusal already");
+    for (std::size_t k = 1; k <= calls; ++k) {
+        note("call " + std::to_string(k) + " of " + std::to_string(calls) + " is refused");
+        run_with_fault(started, k, remember);
+        run_with_fault(started, 0, remember);
+        require(state == first, name + ", the next run as the first:\n" + first, state);
+    }
 }
 
 void leave_nothing_behind(const subject& given) {
     with_each_fault(given, [](const faulty_run& run) {
-        for (const auto& [kind, number] : host().live)
-            if (kind != "bracket") require_equal(number, 0, run.name() + ", " + kind + " left:");
+        require(script::objects_left().empty(), run.name() + ", nothing left", script::objects_left());
     });
 }
 
 void leave_no_bracket_open(const subject& given) {
     with_each_fault(given, [](const faulty_run& run) {
-        const std::string fault = bracket_fault(host().log);
+        const std::string fault = script::bracket_fault();
         require(fault.empty(), run.name() + ", brackets as ever", fault);
     });
 }
@@ -76,24 +105,6 @@ void leave_scenes_whole(const subject& given) {
     });
 }
 
-// The utility of this contract whose very words are known; of others only the kind of message counts.
-constexpr const wchar_t* worded_utility = L"oxk_scn2d_prf_reproj";
-constexpr const wchar_t* bad_settings = L"Incorrect reprojection settings";
-constexpr const wchar_t* reprojection_error = L"Reprojection error";
-constexpr const wchar_t* reprojection_complete = L"Reprojection complete";
-
-struct said {
-    texts messages, errors;
-    bool operator==(const said&) const = default;
-};
-
-std::string describe(const said& heard) {
-    std::string text;
-    for (const std::wstring& each : heard.messages) text += "message \"" + narrow(each) + "\" ";
-    for (const std::wstring& each : heard.errors) text += "error \"" + narrow(each) + "\" ";
-    return text.empty() ? "nothing" : text;
-}
-
 /// What the run must say. Only the run over the scenes reports its failures; a dialog that cannot do its work
 /// stays silent, and progress is a luxury.
 said expected_words(const play& acted) {
@@ -106,31 +117,17 @@ said expected_words(const play& acted) {
 }
 
 void are_reported(const subject& given) {
-    bool worded = false;
-    {
-        script::set_stage();
-        session started(given.bundle);
-        play first(started);
-        first.run();
-        const bool progress = std::ranges::any_of(
-            host().log, [](const std::string& line) { return line.starts_with("progress"); });
-        if (!progress || host().messages.empty())
-            throw no_occasion("the utility shows no progress or does not report success");
-        for (const service& each : started.services()) worded = worded || each.id == worded_utility;
-    }
-    with_each_fault(given, [worded](const faulty_run& run) {
-        said expected = expected_words(run.acted);
-        said heard{host().messages, host().errors};
-        if (!worded) {  // count only
-            for (said* each : {&expected, &heard})
-                for (texts* list : {&each->messages, &each->errors}) std::ranges::fill(*list, L"any");
-        }
-        require(heard == expected, run.name() + ", " + describe(expected), describe(heard));
+    with_each_fault(given, [](const faulty_run& run) {
+        if (run.number == 0 && !host().live.contains("bracket"))
+            throw no_occasion("the utility changes no scene");
+        const said expected = expected_words(run.acted).as_known_in(run.started);
+        const said came = heard().as_known_in(run.started);
+        require(came == expected, run.name() + ", " + describe(expected), describe(came));
     });
 }
 
 constexpr check checks[] = {
-    {"faults.survived", "each refusal of the host is survived", are_survived},
+    {"faults.survived", "each refusal of the host is survived, and the next run does its work", are_survived},
     {"faults.objects", "nothing that was made in the host stays after a refusal", leave_nothing_behind},
     {"faults.brackets", "update brackets are closed after a refusal", leave_no_bracket_open},
     {"faults.scenes", "a refusal leaves no scene half changed", leave_scenes_whole},

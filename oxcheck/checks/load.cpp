@@ -4,10 +4,11 @@
 #include <chrono>
 #include <cstdio>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/files/exports.h"
 #include "oxcheck/stage/script.h"
-#include "oxcheck/stage/session.h"
+#include "oxcheck/tree/play.h"
+#include "testing/processor_time.h"
 
 namespace oxcheck {
 
@@ -49,14 +50,14 @@ void unloads_without_trace(const subject& given) {
     constexpr int times = 10;   // twice
     const auto once = [&given] {
         script::set_stage();
-        { const session started(given.bundle); }
+        {
+            session started(given.bundle, {.with_localizer = true});
+            if (started.has_utility()) play(started).run();
+        }
         forget_lent_objects();
-        host_double::reset();
+        script::clear_stage();
     };
-    once();
-    require(!system::is_loaded(given.bundle), "the library leaves the process when it is unloaded",
-            "it stays mapped");
-    for (int i = 1; i < warm_up; ++i) once();
+    for (int i = 0; i < warm_up; ++i) once();
     system::holdings at[3];
     at[0] = system::count_holdings();
     for (int i = 1; i < 3; ++i) {
@@ -73,23 +74,45 @@ void unloads_without_trace(const subject& given) {
             std::to_string(mapped) + " bytes");
 }
 
+void starts_afresh(const subject& given) {
+    script::set_stage();
+    session first(given.bundle, {.with_localizer = true});
+    play(first).run();
+    const bool localized = !first.localized.asked.empty();
+    first.unload();
+    require(!system::is_loaded(given.bundle), "the library leaves the process when it is unloaded",
+            "it stays mapped");
+    first.localized.asked.clear();
+
+    script::set_stage();
+    session second(given.bundle, {.with_localizer = true});
+    second.localized.mark = L"second ";
+    for (const service& each : second.services())
+        require(ox::call<&ox::referent_impl::owner>(each.referent()) == second.given.self(),
+                "a service of the second session is owned by its context", "another owner");
+    const std::wstring caption =
+        read_text([&](custom_pointer v) { ox::call<&ox::utility_impl::visit_caption>(second.utility(), v); });
+    play(second).run();
+    require(first.localized.asked.empty(), "the first session's localizer is not asked any more", "it is");
+    require(!localized || caption.starts_with(second.localized.mark), "a caption of the second localizer",
+            host_double::narrow(caption));
+}
+
 void loads_quickly(const subject& given) {
-    using clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds limit(100);
-    // The fastest of a few: the first one waits for the disk.
-    auto fastest = clock::duration::max();
+    auto fastest = std::chrono::nanoseconds::max();  // of a few: the first one fetches pages from the disk
     for (int i = 0; i < 5; ++i) {
-        const auto start = clock::now();
+        const auto start = processor_time();
         const bundle loaded(given.bundle);
         loaded.enter(nullptr);
-        fastest = std::min(fastest, clock::now() - start);
+        fastest = std::min(fastest, processor_time() - start);
     }
     const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(fastest);
-    require(taken < limit, "loaded in under 100 ms", std::to_string(taken.count()) + " ms");
+    require(taken < limit, "loaded in under 100 ms of processor time", std::to_string(taken.count()) + " ms");
 }
 
 void loads_silently(const subject& given) {
-    host_double::reset();
+    script::clear_stage();
     const std::size_t windows = system::count_holdings().windows;
     const bundle loaded(given.bundle);
     loaded.enter(nullptr);
@@ -109,8 +132,10 @@ void loads_silently(const subject& given) {
 constexpr check checks[] = {
     {"load.opens", "the library is loaded and has the bundle entry", opens},
     {"load.exports", "exactly the two names of the contract are exported", exports_two_names},
-    {"load.unload", "twenty times loaded, started and unloaded, nothing grows", unloads_without_trace},
-    {"load.time", "loading takes less than 100 ms", loads_quickly},
+    {"load.unload", "twenty times loaded, run and unloaded, nothing grows", unloads_without_trace},
+    {"load.second_session", "unloaded and loaded again, the bundle knows nothing of its first host",
+     starts_afresh},
+    {"load.time", "loading takes less than 100 ms of processor time", loads_quickly},
     {"load.silent", "loading shows no window, writes no file, says nothing", loads_silently},
 };
 

@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 #include "oxcheck/tree/element.h"
@@ -85,10 +85,10 @@ void find_their_own_name(const subject& given) {
 }
 
 /// The name with another version number.
-std::string other_version(const std::string& name, int by) {
+std::string other_version(const std::string& name, int difference) {
     std::size_t digits = name.size();
     while (std::isdigit(static_cast<unsigned char>(name[digits - 1]))) --digits;
-    return name.substr(0, digits) + std::to_string(std::stoi(name.substr(digits)) + by);
+    return name.substr(0, digits) + std::to_string(std::stoi(name.substr(digits)) + difference);
 }
 
 void know_no_other_name(const subject& given) {

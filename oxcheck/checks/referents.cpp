@@ -1,6 +1,9 @@
 // Lifetimes of the services.
 
-#include "oxcheck/checks.h"
+#include <algorithm>
+#include <utility>
+
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/stage/session.h"
 
@@ -10,16 +13,22 @@ namespace {
 
 using ox::referent_impl;
 
-std::size_t add(custom_pointer referent, watcher& by) {
-    return ox::call<&referent_impl::add_referrer>(referent, by.pointer());
+std::size_t add(custom_pointer referent, watcher& referrer) {
+    return ox::call<&referent_impl::add_referrer>(referent, referrer.pointer());
 }
-void remove(custom_pointer referent, watcher& by) {
-    ox::call<&referent_impl::remove_referrer>(referent, by.pointer());
+void remove(custom_pointer referent, watcher& referrer) {
+    ox::call<&referent_impl::remove_referrer>(referent, referrer.pointer());
 }
 
 std::string name_of_service(const service& each) {
     return (each.what == publication::kind::utility ? "the utility service \"" : "the dialog service \"") +
            host_double::narrow(each.id) + "\"";
+}
+
+std::string listed(const std::vector<int>& numbers) {
+    std::string text;
+    for (const int number : numbers) text += std::to_string(number) + " ";
+    return text.empty() ? "none" : text;
 }
 
 /// Starts the bundle and tries each of its services in turn.
@@ -82,6 +91,65 @@ void tell_before_they_end(const subject& given) {
         });
 }
 
+/// Three observers of a service that ends. One of them takes another away meanwhile, or none; then a new
+/// holder comes.
+struct reentry {
+    const char* what;
+    bool while_asked;  ///< whether it holds; else while it is told
+    int actor;
+    int leaves;             ///< 0: nobody
+    std::vector<int> told;  ///< in this order
+};
+const reentry reentries[] = {
+    {"the first leaves while it is told", false, 1, 1, {1, 2, 3}},
+    {"the first takes the second away while it is told", false, 1, 2, {1, 3}},
+    {"the last takes the first away while it is told", false, 3, 1, {1, 2, 3}},
+    {"a holder comes while the second is told", false, 2, 0, {1, 2, 3}},
+    {"the second leaves while it is asked", true, 2, 2, {1, 3}},
+    {"the first takes the last away while it is asked", true, 1, 3, {1, 2}},
+};
+
+void bear_reentry(const subject& given, const reentry& tried) {
+    with_services(given, [&tried](session& started, const service& each, custom_pointer referent,
+                                  const std::string& service_name) {
+        const std::string name = service_name + ", " + tried.what;
+        note("at " + name);
+        std::vector<int> told;
+        watcher* observers[3];
+        for (int i = 0; i < 3; ++i) {
+            observers[i] = &new_watcher(false);
+            observers[i]->on_released = [&told, i] { told.push_back(i + 1); };
+            add(referent, *observers[i]);
+        }
+        watcher& newcomer = new_watcher(true);
+        const std::function<void()> interfere = [&, once = false]() mutable {
+            if (std::exchange(once, true)) return;
+            if (tried.leaves == 0)
+                add(referent, newcomer);
+            else
+                remove(referent, *observers[tried.leaves - 1]);
+        };
+        watcher& actor = *observers[tried.actor - 1];
+        if (tried.while_asked)
+            actor.on_asked = interfere;
+        else
+            actor.on_released = [interfere, tell = actor.on_released] {
+                tell();
+                interfere();
+            };
+        const auto left = [&started] { return std::ranges::count(started.given.log, "remove"); };
+        const auto before = left();
+        started.release(each);
+        require(told == tried.told, name + ", told in order: " + listed(tried.told), listed(told));
+        require_equal(newcomer.releases, 0, name + ", the newcomer hears of it:");
+        require_equal(left() - before, std::ptrdiff_t{1}, name + ", times that it lets go of its owner:");
+    });
+}
+
+void bear_reentries(const subject& given) {
+    for (const reentry& each : reentries) bear_reentry(given, each);
+}
+
 void respect_the_pin(const subject& given) {
     with_services(
         given, [](session& started, const service& each, custom_pointer referent, const std::string& name) {
@@ -121,6 +189,8 @@ constexpr check checks[] = {
     {"referents.count", "referrers are counted, twice added ones twice", count},
     {"referents.holders", "a service ends with its last holder, observers or not", end_with_the_last_holder},
     {"referents.release", "a service tells its referrers before it ends", tell_before_they_end},
+    {"referents.reentrant", "referrers may come and go while a service asks them and tells them",
+     bear_reentries},
     {"referents.pin", "an empty referrer pins a service, and services pin in their turn", respect_the_pin},
     {"referents.owner", "services hold their context, and nothing does after unloading",
      belong_to_the_context},

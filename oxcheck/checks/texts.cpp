@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "oxcheck/checks.h"
+#include "oxcheck/check.h"
 #include "oxcheck/stage/script.h"
 #include "oxcheck/tree/play.h"
 
@@ -69,12 +69,12 @@ void follow_the_localizer(const subject& given) {
     const std::wstring localized = utility_caption(started);
     auto& asked = started.localized.asked;
     require(!asked.empty(), "the localizer is asked for the utility's caption", "it is not");
-    require(localized == localizer::text_of(asked.back()), "the localizer's text", narrow(localized));
+    require(localized == started.localized.text_of(asked.back()), "the localizer's text", narrow(localized));
     captions(started);
     for (const std::uint32_t id : asked)
         require(static_cast<std::int32_t>(id) > 0, "only the bundle's own texts, ids above 0",
                 std::to_string(static_cast<std::int32_t>(id)));
-    started.localized.knows = false;
+    started.localized.gives = answer::none;
     const std::wstring refused = utility_caption(started);
     require(refused.empty(), "no text where the localizer has none", narrow(refused));
 }
@@ -83,6 +83,7 @@ void outlive_the_localizer(const subject& given) {
     script::set_stage();
     session started(given.bundle, {.with_localizer = true});
     if (started.localized.referent_.referrers.empty()) throw no_occasion("the bundle asks for no localizer");
+    utility_caption(started);
     started.localized.referent_.release_all();
     started.localized.asked.clear();
     const std::wstring own = utility_caption(started);

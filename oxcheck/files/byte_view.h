@@ -24,10 +24,12 @@ public:
         std::memcpy(&value, part(offset, sizeof value).data(), sizeof value);
         return value;
     }
+    /// A text that a zero byte ends.
     std::string text(std::uint64_t offset) const {
-        std::string result;
-        while (const auto c = at<char>(offset++)) result += c;
-        return result;
+        const auto rest = part(offset, 1).data();
+        const auto* end = std::memchr(rest, 0, bytes_.size() - static_cast<std::size_t>(offset));
+        if (!end) throw damaged_file("the text at byte " + std::to_string(offset) + " has no end");
+        return {reinterpret_cast<const char*>(rest), static_cast<const char*>(end)};
     }
 
 private:

@@ -3,9 +3,11 @@
 /// calls it later is found out instead of crashing.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "border/call.h"
 #include "border/interfaces/dialogs.h"
 #include "border/interfaces/layouts.h"
 #include "border/interfaces/outlines.h"
@@ -17,21 +19,31 @@ namespace oxcheck {
 
 using ox::custom_pointer;
 
+/// Calls that came too late, by what was called.
+inline std::vector<std::string>& late_calls() {
+    static std::vector<std::string> calls;
+    return calls;
+}
+
 struct lent_object {
     virtual ~lent_object() = default;
     bool over = false;
 
     /// Whether a call comes after the time it was lent for; such calls are written down.
-    bool late(const char* what) const;
+    bool late(const char* what) const {
+        if (over) late_calls().push_back(what);
+        return over;
+    }
 };
 
-/// Calls that came too late, by what was called.
-std::vector<std::string>& late_calls();
-/// Frees what was lent so far. No bundle may be loaded.
-void forget_lent_objects();
-
 namespace detail {
-std::vector<std::unique_ptr<lent_object>>& lent_objects();
+inline std::vector<std::unique_ptr<lent_object>> lent_objects;
+}
+
+/// Frees what was lent so far. No bundle may be loaded, or none that was found to call too late.
+inline void forget_lent_objects() {
+    detail::lent_objects.clear();
+    detail::lent_objects.shrink_to_fit();
 }
 
 /// Lends a `Visitor` for as long as this lives.
@@ -41,7 +53,7 @@ public:
     lending() {
         auto made = std::make_unique<Visitor>();
         visitor_ = made.get();
-        detail::lent_objects().push_back(std::move(made));
+        detail::lent_objects.push_back(std::move(made));
     }
     ~lending() { visitor_->over = true; }
     lending(const lending&) = delete;
@@ -116,6 +128,14 @@ struct checks_sink final : ox::outline_checks_visitor_impl, lent_object {
     std::vector<received> all;
     void visit(custom_pointer checks) override {
         if (!late("an outline checks visitor")) all.push_back({{}, checks});
+    }
+};
+
+struct item_sink final : ox::outline_item_index_visitor_impl, lent_object {
+    using interface = ox::outline_item_index_visitor_impl;
+    std::optional<std::uint32_t> row;  ///< none of the root
+    void visit(custom_pointer item) override {
+        if (!late("an outline item visitor") && item) row = ox::call<&ox::outline_item_index_impl::row>(item);
     }
 };
 

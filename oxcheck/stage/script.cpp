@@ -1,13 +1,37 @@
 #include "oxcheck/stage/script.h"
 
 #include <sstream>
+#include <string_view>
 
 namespace oxcheck::script {
 
 using host_double::host;
 
-void set_stage(int language) {
+namespace {
+
+/// Of the hosts before this one.
+std::vector<std::string>& earlier_complaints() {
+    static std::vector<std::string> all;
+    return all;
+}
+
+}  // namespace
+
+std::vector<std::string> complaints() {
+    std::vector<std::string> all = earlier_complaints();
+    for (const std::string& function : host().given_null) all.push_back(function + " was handed null");
+    for (const std::string& fault : host().border_faults)
+        all.push_back("an exception came as far as the border of " + fault);
+    return all;
+}
+
+void clear_stage() {
+    earlier_complaints() = complaints();
     host_double::reset();
+}
+
+void set_stage(int language) {
+    clear_stage();
     host().language = language;
     host().scenes_refuse = true;
     host().add(L"Line 1", L"+proj=longlat +datum=WGS84", {{37, 55}, {38, 56}});
@@ -38,6 +62,31 @@ std::string describe_host() {
     for (const double fraction : host().progress) text << "progress " << fraction << "\n";
     for (const std::string& line : host().log) text << line << "\n";
     return text.str();
+}
+
+std::string bracket_fault() {
+    std::string open;  // scene whose bracket is open
+    for (const std::string& line : host().log) {
+        const auto after = [&line](std::string_view word) { return line.substr(word.size()); };
+        if (line.starts_with("begin ")) {
+            if (!open.empty()) return "the bracket of " + after("begin ") + " begins within that of " + open;
+            open = after("begin ");
+        } else if (line.starts_with("end ")) {
+            if (open != after("end "))
+                return "the bracket of " + after("end ") + " ends without having begun";
+            open.clear();
+        } else if (line.starts_with("line ") || line.starts_with("text ")) {
+            if (open != after("line ")) return "a change of " + after("line ") + " outside its bracket";
+        }
+    }
+    return open.empty() ? "" : "the bracket of " + open + " stays open";
+}
+
+std::string objects_left() {
+    std::string text;
+    for (const auto& [kind, number] : host().live)
+        if (number != 0 && kind != "bracket") text += std::to_string(number) + " " + kind + " ";
+    return text;
 }
 
 }  // namespace oxcheck::script

@@ -10,10 +10,21 @@
 
 namespace oxcheck {
 
+namespace {
+
+bool deliver(answer gives, const std::wstring& text, custom_pointer string_visitor) {
+    constexpr auto visit = &ox::string_visitor_impl::visit;
+    if (gives == answer::text) ox::call<visit>(string_visitor, text.c_str());
+    if (gives == answer::empty) ox::call<visit>(string_visitor, L"");
+    if (gives == answer::null) ox::call<visit>(string_visitor, static_cast<const wchar_t*>(nullptr));
+    return gives != answer::none;
+}
+
+}  // namespace
+
 bool localizer::visit_string(std::uint32_t id, custom_pointer string_visitor) {
     asked.push_back(id);
-    if (knows) ox::call<&ox::string_visitor_impl::visit>(string_visitor, text_of(id).c_str());
-    return knows;
+    return deliver(gives, text_of(id), string_visitor);
 }
 
 registry::registry() {
@@ -44,8 +55,7 @@ context::context(registry& registered, custom_pointer owner) : registry_(registe
 
 void dialog_host::ask_file(std::int32_t mode, const wchar_t*, custom_pointer string_visitor) {
     if (host_double::host().refuses("file dialog")) return;
-    const wchar_t* path = mode == open_file ? script::opened_file : script::saved_file;
-    ox::call<&ox::string_visitor_impl::visit>(string_visitor, path);
+    deliver(gives, mode == open_file ? script::opened_file : script::saved_file, string_visitor);
 }
 
 bool dialog_host::show_modal(custom_pointer docker, custom_pointer button_box) {

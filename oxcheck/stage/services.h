@@ -14,7 +14,10 @@
 
 namespace oxcheck {
 
-/// Answers for every text "<id>", or refuses all of them.
+/// How the host answers where it is asked for a text.
+enum class answer { text, empty, null, none };
+
+/// Answers for every text its mark and the id.
 class localizer final : public ox::localizer_impl {
 public:
     custom_pointer referent() override { return referent_.self(); }
@@ -22,10 +25,11 @@ public:
     void visit_bitmap(std::uint32_t id, custom_pointer) override { asked.push_back(id); }
     void visit_masked_bitmap(std::uint32_t id, custom_pointer) override { asked.push_back(id); }
 
-    static std::wstring text_of(std::uint32_t id) { return L"<" + std::to_wstring(id) + L">"; }
+    std::wstring text_of(std::uint32_t id) const { return mark + std::to_wstring(id); }
     custom_pointer pointer() { return ox::make_pointer<ox::localizer_impl>(*this); }
 
-    bool knows = true;
+    answer gives = answer::text;
+    std::wstring mark = L"text ";
     std::vector<std::uint32_t> asked;  ///< ids
     host_referent referent_;
 };
@@ -105,6 +109,7 @@ public:
     /// Unset: every dialog is cancelled.
     std::function<bool(custom_pointer docker, custom_pointer button_box, int depth)> on_show;
     int shown = 0;
+    answer gives = answer::text;  ///< where a file is asked for
 
 private:
     int depth_ = 0;

@@ -1,5 +1,6 @@
 #include "oxcheck/stage/session.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -75,6 +76,19 @@ custom_pointer session::utility() const {
     for (const service& each : services_)
         if (each.what == publication::kind::utility && each.served) return each.served;
     throw no_occasion("the bundle publishes no utility");
+}
+bool session::has_utility() const {
+    return std::ranges::any_of(services_, [](const service& each) {
+        return each.what == publication::kind::utility && each.served;
+    });
+}
+bool session::has_dialog_of_utility() const {
+    for (const service& utility : services_)
+        for (const service& dialog : services_)
+            if (utility.what == publication::kind::utility && dialog.what != utility.what &&
+                dialog.id == utility.id)
+                return true;
+    return false;
 }
 
 void session::run() {

@@ -61,6 +61,9 @@ public:
     const std::vector<service>& services() const { return services_; }
     /// The utility of the bundle; throws `no_occasion` when it has none.
     custom_pointer utility() const;
+    bool has_utility() const;
+    /// Whether there is a modal dialog of the utility's id.
+    bool has_dialog_of_utility() const;
     /// Starts the utility; throws what was thrown while its dialogs were shown.
     void run();
 

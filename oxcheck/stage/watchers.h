@@ -2,6 +2,7 @@
 /// Both ends of the lifetime protocol, played by the checker.
 
 #include <algorithm>
+#include <functional>
 #include <list>
 #include <string>
 #include <utility>
@@ -18,17 +19,23 @@ using ox::custom_pointer;
 struct watcher final : ox::referrer_impl {
     explicit watcher(bool holding) : holding_(holding) {}
 
-    bool holds() override { return holding_; }
+    bool holds() override {
+        if (on_asked) on_asked();
+        return holding_;
+    }
     void released(custom_pointer referent) override {
         ++releases;
         self_while_released = ox::call<&ox::referent_impl::self>(referent);
         released_by = referent;
+        if (on_released) on_released();
     }
     custom_pointer pointer() { return ox::make_pointer<ox::referrer_impl>(*this); }
 
     int releases = 0;
     custom_pointer released_by{};
     custom_pointer self_while_released{};
+    std::function<void()> on_asked,
+        on_released;  ///< while it is asked whether it holds, and while it is told
 
 private:
     bool holding_;

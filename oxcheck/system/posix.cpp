@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "oxcheck/system/system.h"
+#include "testing/processor_time.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
@@ -21,7 +22,6 @@ namespace oxcheck::system {
 
 namespace {
 
-using clock = std::chrono::steady_clock;
 constexpr int cannot_start = 127;
 
 [[noreturn]] void become(const std::vector<fs::path>& arguments, const fs::path& folder,
@@ -30,7 +30,8 @@ constexpr int cannot_start = 127;
     if (file < 0 || chdir(folder.c_str()) != 0) _exit(cannot_start);
     dup2(file, STDOUT_FILENO);
     dup2(file, STDERR_FILENO);
-    setenv("GLIBC_TUNABLES", "glibc.malloc.tcache_count=0", 1);  // freed memory counts as free at once
+    // Freed memory counts as free at once, and holds nothing that could pass for an object.
+    setenv("GLIBC_TUNABLES", "glibc.malloc.tcache_count=0:glibc.malloc.perturb=165", 1);
     std::string self = "/proc/self/exe";
     std::vector<char*> values{self.data()};
     std::vector<std::string> texts(arguments.begin(), arguments.end());
@@ -52,23 +53,34 @@ ending ending_of(int status) {
 
 std::vector<fs::path> arguments(int count, char** values) { return {values + 1, values + count}; }
 
-ending run_self(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output,
-                std::chrono::milliseconds limit) {
-    const pid_t child = fork();
-    if (child < 0) return {ending::kind::not_started, 0, std::strerror(errno)};
-    if (child == 0) become(arguments, folder, output);
-    const auto deadline = clock::now() + limit;
-    int status = 0;
-    while (waitpid(child, &status, WNOHANG) == 0) {
-        if (clock::now() >= deadline) {
-            kill(child, SIGKILL);
-            waitpid(child, &status, 0);
-            return {ending::kind::timed_out, 0, "no end after " + std::to_string(limit.count()) + " ms"};
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    return ending_of(status);
+struct child::process {
+    pid_t id;
+    std::optional<ending> end = {};
+};
+
+child::child(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output)
+    : process_(std::make_unique<process>(process{fork()})) {
+    if (process_->id < 0) throw std::runtime_error(std::strerror(errno));
+    if (process_->id == 0) become(arguments, folder, output);
 }
+
+child::~child() {
+    if (process_->end) return;
+    kill(process_->id, SIGKILL);
+    waitpid(process_->id, nullptr, 0);
+}
+
+std::optional<ending> child::wait(std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds step(2);
+    for (auto waited = 0 * step;; waited += step) {
+        int status = 0;
+        if (!process_->end && waitpid(process_->id, &status, WNOHANG) != 0) process_->end = ending_of(status);
+        if (process_->end || waited >= patience) return process_->end;
+        std::this_thread::sleep_for(step);
+    }
+}
+
+std::chrono::nanoseconds child::processor_time() const { return processor_time_of(process_->id); }
 
 void crash_quietly() {
     const rlimit none{0, 0};

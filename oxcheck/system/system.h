@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,15 +18,29 @@ std::vector<fs::path> arguments(int count, char** values);
 
 /// How a child process ended.
 struct ending {
-    enum class kind { exited, crashed, timed_out, not_started } how = kind::not_started;
+    enum class kind { exited, crashed } how;
     int code = 0;             ///< of `exited`
-    std::string description;  ///< of the others
+    std::string description;  ///< of `crashed`
 };
 
-/// Runs this program anew with other arguments, its working folder and everything it prints redirected; ends
-/// it after `limit`.
-ending run_self(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output,
-                std::chrono::milliseconds limit);
+/// This program, run anew with other arguments, its working folder and everything it prints redirected.
+class child {
+public:
+    /// Throws std::runtime_error when it cannot be started.
+    child(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output);
+    ~child();  ///< ends it
+    child(const child&) = delete;
+    child& operator=(const child&) = delete;
+
+    /// Waits for its end, but not longer than `patience`; nothing while it runs.
+    std::optional<ending> wait(std::chrono::milliseconds patience);
+    /// What it has used so far.
+    std::chrono::nanoseconds processor_time() const;
+
+private:
+    struct process;
+    std::unique_ptr<process> process_;
+};
 
 /// Of a process that crashes: no dialog, no core file.
 void crash_quietly();

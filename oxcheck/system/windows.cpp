@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "oxcheck/system/system.h"
+#include "testing/processor_time.h"
 
 #define WIN32_LEAN_AND_MEAN
 #ifndef NOMINMAX
@@ -92,8 +93,11 @@ std::vector<fs::path> arguments(int, char**) {
     return result;
 }
 
-ending run_self(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output,
-                std::chrono::milliseconds limit) {
+struct child::process {
+    handle object;
+};
+
+child::child(const std::vector<fs::path>& arguments, const fs::path& folder, const fs::path& output) {
     const handle file = inheritable_file(output);
     STARTUPINFOW start{};
     start.cb = sizeof start;
@@ -103,18 +107,25 @@ ending run_self(const std::vector<fs::path>& arguments, const fs::path& folder, 
     std::wstring line = command_line(arguments);
     if (!file || !CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, folder.c_str(),
                                  &start, &started))
-        return {ending::kind::not_started, 0, "error " + std::to_string(GetLastError())};
-    const handle process(started.hProcess);
-    const handle thread(started.hThread);
-    if (WaitForSingleObject(process.get(), static_cast<DWORD>(limit.count())) == WAIT_TIMEOUT) {
-        TerminateProcess(process.get(), 1);
-        WaitForSingleObject(process.get(), INFINITE);
-        return {ending::kind::timed_out, 0, "no end after " + std::to_string(limit.count()) + " ms"};
-    }
+        throw std::runtime_error("error " + std::to_string(GetLastError()));
+    CloseHandle(started.hThread);
+    process_.reset(new process{handle(started.hProcess)});
+}
+
+child::~child() {
+    TerminateProcess(process_->object.get(), 1);
+    WaitForSingleObject(process_->object.get(), INFINITE);
+}
+
+std::optional<ending> child::wait(std::chrono::milliseconds patience) {
+    const DWORD limit = static_cast<DWORD>(patience.count());
+    if (WaitForSingleObject(process_->object.get(), limit) == WAIT_TIMEOUT) return std::nullopt;
     DWORD code = 0;
-    GetExitCodeProcess(process.get(), &code);
+    GetExitCodeProcess(process_->object.get(), &code);
     return ending_of(code);
 }
+
+std::chrono::nanoseconds child::processor_time() const { return processor_time_of(process_->object.get()); }
 
 void crash_quietly() {
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);

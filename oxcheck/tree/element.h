@@ -1,6 +1,7 @@
 #pragma once
 /// What a bundle hands out, as pointers with a known kind, and the walk that finds all of it behind a dialog.
 
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -67,10 +68,13 @@ void with_kind_of(const element& each, Use&& use) {
 /// out, as they are made anew each time a menu opens.
 std::vector<element> walk(custom_pointer docker, custom_pointer button_box);
 
+/// The tools that a menu makes for the host when it opens.
+std::vector<element> menu_tools(custom_pointer context_menu);
+
 /// The tools of a menu while it is open.
 class open_menu {
 public:
-    explicit open_menu(custom_pointer context_menu);
+    explicit open_menu(custom_pointer context_menu) : tools_(menu_tools(context_menu)) {}
     ~open_menu();  ///< detaches them, which ends them
     open_menu(const open_menu&) = delete;
     open_menu& operator=(const open_menu&) = delete;
@@ -79,6 +83,15 @@ public:
 private:
     std::vector<element> tools_;
 };
+
+/// What stands in a cell of a grid: one element, or nothing.
+std::vector<element> cell_of(custom_pointer grid, std::int32_t column, std::int32_t row);
+
+/// The row that is an outline's current one, if there is any.
+std::optional<std::uint32_t> current_row_of(custom_pointer outline);
+
+/// Attaches a view to an element of a kind that has one; a button box has two.
+void attach_views(const element& each, custom_pointer view, custom_pointer second_of_box);
 
 /// The captions and hints that an element shows, without the content that users change.
 std::vector<std::wstring> captions_of(const element& each);

@@ -9,6 +9,23 @@
 
 namespace oxcheck {
 
+/// One thing that a user does to an element.
+struct act {
+    const element& target;
+    std::string what;
+    bool accepts = false;  ///< presses the first button at the foot of the dialog
+};
+
+/// Acts on every control of a dialog: types, chooses, clicks, edits, opens menus, checks all rows; then
+/// presses the buttons at its foot until one closes it.
+struct user {
+    /// Performs each act, where there is something to do before or after it.
+    std::function<void(const act& done, const std::function<void()>& perform)> around = {};
+
+    /// Answers what the dialog host is to answer.
+    bool operate(const std::vector<element>& dialog) const;
+};
+
 /// Where in the user's work the host is when something happens.
 enum class phase {
     elsewhere,  ///< in a dialog, not in the run over the scenes
@@ -29,14 +46,12 @@ public:
 
     /// Of the call that the host refused.
     phase refused_in() const { return refused_in_; }
-    bool applied() const { return applied_; }
 
 private:
     phase now() const;
 
     session& session_;
     bool applying_ = false;
-    bool applied_ = false;
     std::size_t log_before_ = 0;
     phase refused_in_ = phase::elsewhere;
 };

@@ -49,9 +49,7 @@ private:
         const std::int32_t rows = ox::call<&ox::grid_layout_impl::row_count>(grid);
         for (std::int32_t row = 0; row < rows; ++row)
             for (std::int32_t column = 0; column < columns; ++column)
-                add_visited([=](custom_pointer v) {
-                    ox::call<&ox::grid_layout_impl::visit_cell>(grid, column, row, v);
-                });
+                for (const element& each : cell_of(grid, column, row)) add(each);
     }
 
     void add_pages(custom_pointer stack) {
@@ -118,18 +116,42 @@ std::vector<element> walk(custom_pointer docker, custom_pointer button_box) {
     return found.found;
 }
 
-open_menu::open_menu(custom_pointer context_menu) {
+std::vector<element> cell_of(custom_pointer grid, std::int32_t column, std::int32_t row) {
+    lending<element_sink> sink;
+    ox::call<&ox::grid_layout_impl::visit_cell>(grid, column, row, sink.pointer());
+    return sink->all;
+}
+
+std::optional<std::uint32_t> current_row_of(custom_pointer outline) {
+    lending<item_sink> sink;
+    ox::call<&ox::outline_impl::visit_current_item>(outline, sink.pointer());
+    return sink->row;
+}
+
+std::vector<element> menu_tools(custom_pointer context_menu) {
+    std::vector<element> tools;
     lending<tool_sink> sink;
     ox::call<&ox::context_menu_impl::visit_tool_sets>(context_menu, sink.pointer());
     for (const received& set : sink->sets)
         ox::call<&ox::tool_set_impl::visit_tools>(set.pointer, sink.pointer());
     for (const received& tool : sink->tools)
-        tools_.push_back({name_of<ox::action_tool_impl>(), tool.pointer, tool.id, {}, true});
+        tools.push_back({name_of<ox::action_tool_impl>(), tool.pointer, tool.id, {}, true});
+    return tools;
 }
 
 open_menu::~open_menu() {
     for (const element& tool : tools_)
         ox::call<&ox::action_tool_impl::attach_view>(tool.pointer, custom_pointer{});
+}
+
+void attach_views(const element& each, custom_pointer view, custom_pointer second_of_box) {
+    with_kind_of(each, [&]<class I>() {
+        if constexpr (requires { &I::attach_view; }) ox::call<&I::attach_view>(each.pointer, view);
+        if constexpr (std::is_same_v<I, ox::button_box_impl>) {
+            ox::call<&I::attach_first_view>(each.pointer, view);
+            ox::call<&I::attach_second_view>(each.pointer, second_of_box);
+        }
+    });
 }
 
 std::vector<std::wstring> captions_of(const element& each) {

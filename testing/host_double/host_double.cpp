@@ -11,6 +11,12 @@ state the_host;
 state& host() { return the_host; }
 void reset() { the_host = state(); }
 
+bool are_given(const char* function, std::initializer_list<const void*> arguments) {
+    if (std::ranges::find(arguments, nullptr) == arguments.end()) return true;
+    host().given_null.emplace_back(function);
+    return false;
+}
+
 bool state::refuses(const std::string& call) {
     log.push_back(call);
     return counts_as_refused(call);
@@ -34,15 +40,10 @@ scene& state::add(std::wstring caption, std::wstring pj4, line pv) {
     return added;
 }
 
-bool state::is_null(const void* handle, const char* function) {
-    if (!handle) given_null.emplace_back(function);
-    return !handle;
-}
-
 void state::deliver(void* adapter_handle, const std::wstring& text) {
-    if (is_null(adapter_handle, "deliver")) return;
+    if (!are_given("deliver", {adapter_handle})) return;
     const auto* to = static_cast<const adapter*>(adapter_handle);
-    to->wide(text.c_str(), to->context);
+    to->wide(null_for_empty && text.empty() ? nullptr : text.c_str(), to->context);
 }
 
 int state::alive() const {

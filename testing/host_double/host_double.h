@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -47,6 +48,7 @@ struct HOST_DOUBLE_API state {
     bool project_has_scenes = true;
     bool makes_adapters = true;
     bool makes_favourites = true;
+    bool null_for_empty = false;                 ///< empty texts are delivered as null
     std::vector<std::unique_ptr<scene>> scenes;  ///< a null one is a scene that the host does not hand out
     int language = 50000;
     std::wstring executable = L"/nowhere/host";
@@ -61,9 +63,9 @@ struct HOST_DOUBLE_API state {
     std::vector<double> progress;
     std::map<std::string, int> live;  ///< objects by kind
 
-    /// Functions that were given a null which they are not made for.
-    std::vector<std::string> given_null;
-    bool is_null(const void* handle, const char* function);
+    /// What no plug-in may do: functions that were handed a null which they are not made for, and exceptions
+    /// that came as far as a border.
+    std::vector<std::string> given_null, border_faults;
 
     /// The host's calls that may refuse are counted; number `refuse` (from 1) does.
     std::size_t refuse = 0;
@@ -90,6 +92,9 @@ private:
 HOST_DOUBLE_API state& host();
 /// A fresh host; fails nothing, knows nothing.
 HOST_DOUBLE_API void reset();
+
+/// Whether none of the arguments is null; else `function` takes that down, and does nothing.
+HOST_DOUBLE_API bool are_given(const char* function, std::initializer_list<const void*> arguments);
 
 /// Of ASCII texts, for the log.
 inline std::string narrow(const std::wstring& text) {

@@ -2,11 +2,17 @@
 
 #include "testing/host_double/host_double.h"
 
+using host_double::are_given;
 using host_double::host;
 
-void ox_show_wmessage(const wchar_t* text) { host().messages.emplace_back(text); }
-void ox_show_werror(const wchar_t* text) { host().errors.emplace_back(text); }
+void ox_show_wmessage(const wchar_t* text) {
+    if (are_given(__func__, {text})) host().messages.emplace_back(text);
+}
+void ox_show_werror(const wchar_t* text) {
+    if (are_given(__func__, {text})) host().errors.emplace_back(text);
+}
 bool ox_yesno_wmessage(const wchar_t* text) {
+    if (!are_given(__func__, {text})) return false;
     host().questions.emplace_back(text);
     if (host().on_question) host().on_question();
     return host().answer;
@@ -16,8 +22,14 @@ void* ox_progress_create(int options) {
     ++host().live["progress"];
     return &host().progress;
 }
-bool ox_progress_report(void*, double fraction) {
-    host().progress.push_back(fraction);
+bool ox_progress_report(void* progress, double fraction) {
+    if (are_given(__func__, {progress})) host().progress.push_back(fraction);
     return false;
 }
-void ox_progress_destroy(void*) { --host().live["progress"]; }
+void ox_progress_destroy(void* progress) {
+    if (are_given(__func__, {progress})) --host().live["progress"];
+}
+
+void ox_border_fault(const char* place, std::uint32_t slot, const char* what) {
+    host().border_faults.push_back(std::string(place) + ", slot " + std::to_string(slot) + ": " + what);
+}

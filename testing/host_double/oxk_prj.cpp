@@ -6,5 +6,6 @@ using host_double::host;
 
 void* ox_prj_get_instance(void) { return host().project_open ? &host() : nullptr; }
 void* ox_prj_get_scns_2d_ptr(void* project) {
-    return !host().is_null(project, __func__) && host().project_has_scenes ? &host().scenes : nullptr;
+    if (!host_double::are_given(__func__, {project}) || !host().project_has_scenes) return nullptr;
+    return &static_cast<host_double::state*>(project)->scenes;
 }

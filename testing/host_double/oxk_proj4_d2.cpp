@@ -2,6 +2,7 @@
 
 #include "testing/host_double/host_double.h"
 
+using host_double::are_given;
 using host_double::favourite;
 using host_double::host;
 using host_double::line;
@@ -23,7 +24,7 @@ struct reprojector {
 using favourite_items = std::vector<favourite>;
 favourite_items& items(void* list) {
     static favourite_items none;
-    return host().is_null(list, "ox_pj4_fav") ? none : *static_cast<favourite_items*>(list);
+    return are_given("ox_pj4_fav", {list}) ? *static_cast<favourite_items*>(list) : none;
 }
 favourite* item(void* list, std::int32_t index) {
     auto& all = items(list);
@@ -31,61 +32,77 @@ favourite* item(void* list, std::int32_t index) {
                                                                       : nullptr;
 }
 
-void load(const char* format, const wchar_t* path, void* adapter) {
+void load(const char* function, const char* format, const wchar_t* path, void* adapter) {
+    if (!are_given(function, {path, adapter})) return;
     host().log.push_back(std::string("load ") + format);
     if (const auto file = host().files.find(path); file != host().files.end())
         host().deliver(adapter, file->second);
 }
-void save(const char* format, const wchar_t* path, const wchar_t* proj4) {
+void save(const char* function, const char* format, const wchar_t* path, const wchar_t* proj4) {
+    if (!are_given(function, {path, proj4})) return;
     host().log.push_back(std::string("save ") + format);
     host().files[path] = proj4;
 }
 
 }  // namespace
 
-bool ox_pj4_equal_w(const wchar_t* a, const wchar_t* b) { return meaning(a) == meaning(b); }
+bool ox_pj4_equal_w(const wchar_t* a, const wchar_t* b) {
+    return are_given(__func__, {a, b}) && meaning(a) == meaning(b);
+}
 void ox_pj4_get_text_w(const wchar_t* proj4, void* adapter) {
-    host().deliver(adapter, L"described: " + std::wstring(proj4));
+    if (are_given(__func__, {proj4, adapter})) host().deliver(adapter, L"described: " + std::wstring(proj4));
 }
 void ox_pj4_get_short_text_w(const wchar_t* proj4, void* adapter) {
-    host().deliver(adapter, L"short: " + std::wstring(proj4));
+    if (are_given(__func__, {proj4, adapter})) host().deliver(adapter, L"short: " + std::wstring(proj4));
 }
 void ox_pj4_import_crs(const wchar_t* identifier, void* adapter) {
+    if (!are_given(__func__, {identifier, adapter})) return;
     if (host().refuses("import " + host_double::narrow(identifier))) return;
     if (const auto known = host().crs.find(identifier); known != host().crs.end())
         host().deliver(adapter, known->second);
 }
-void ox_pj4_load_simple_w(const wchar_t* path, void* adapter) { load("pj4", path, adapter); }
-void ox_pj4_import_esri(const wchar_t* path, void* adapter) { load("prj", path, adapter); }
-void ox_pj4_save_simple_w(const wchar_t* path, const wchar_t* proj4) { save("pj4", path, proj4); }
-void ox_pj4_export_esri_prj(const wchar_t* proj4, const wchar_t* path) { save("prj", path, proj4); }
+void ox_pj4_load_simple_w(const wchar_t* path, void* adapter) { load(__func__, "pj4", path, adapter); }
+void ox_pj4_import_esri(const wchar_t* path, void* adapter) { load(__func__, "prj", path, adapter); }
+void ox_pj4_save_simple_w(const wchar_t* path, const wchar_t* proj4) { save(__func__, "pj4", path, proj4); }
+void ox_pj4_export_esri_prj(const wchar_t* proj4, const wchar_t* path) { save(__func__, "prj", path, proj4); }
 
 void* ox_pj4_fav_list_create(void) {
     if (!host().makes_favourites) return nullptr;
     ++host().live["favourites"];
     return new favourite_items;
 }
-void ox_pj4_fav_list_deserialize(void* list) { items(list) = host().favourites; }
-void ox_pj4_fav_list_serialize(void* list) { host().favourites = items(list); }
+void ox_pj4_fav_list_deserialize(void* list) {
+    if (are_given(__func__, {list})) items(list) = host().favourites;
+}
+void ox_pj4_fav_list_serialize(void* list) {
+    if (are_given(__func__, {list})) host().favourites = items(list);
+}
 void ox_pj4_fav_list_destroy(void* list) {
+    if (!are_given(__func__, {list})) return;
     --host().live["favourites"];
     delete static_cast<favourite_items*>(list);
 }
-std::int32_t ox_pj4_fav_list_get_count(void* list) { return static_cast<std::int32_t>(items(list).size()); }
+std::int32_t ox_pj4_fav_list_get_count(void* list) {
+    return are_given(__func__, {list}) ? static_cast<std::int32_t>(items(list).size()) : 0;
+}
 void ox_pj4_fav_add_item(void* list, const wchar_t* caption, const wchar_t* proj4) {
-    items(list).push_back({caption, proj4});
+    if (are_given(__func__, {list, caption, proj4})) items(list).push_back({caption, proj4});
 }
 void ox_pj4_fav_del_item(void* list, std::int32_t index) {
+    if (!are_given(__func__, {list})) return;
     host().log.push_back("delete favourite " + std::to_string(index));
     if (item(list, index)) items(list).erase(items(list).begin() + index);
 }
 void ox_pj4_fav_get_caption(void* list, std::int32_t index, void* adapter) {
+    if (!are_given(__func__, {list, adapter})) return;
     if (const favourite* found = item(list, index)) host().deliver(adapter, found->caption);
 }
 void ox_pj4_fav_set_caption(void* list, std::int32_t index, const wchar_t* caption) {
+    if (!are_given(__func__, {list, caption})) return;
     if (favourite* found = item(list, index)) found->caption = caption;
 }
 void ox_pj4_fav_get_pj4str(void* list, std::int32_t index, void* adapter) {
+    if (!are_given(__func__, {list, adapter})) return;
     if (const favourite* found = item(list, index)) host().deliver(adapter, found->pj4);
 }
 
@@ -95,16 +112,20 @@ void* ox_rpj_d2_create(void) {
     return new reprojector;
 }
 bool ox_rpj_d2_init_w(void* rpj, const wchar_t* source, const wchar_t* target) {
+    if (!are_given(__func__, {rpj, source, target})) return false;
     static_cast<reprojector*>(rpj)->needed = !ox_pj4_equal_w(source, target);
     return !host().refuses("init");
 }
-bool ox_rpj_d2_rpj_is_needed(void* rpj) { return static_cast<reprojector*>(rpj)->needed; }
-bool ox_rpj_d2_apply_pv(void*, void* pv) {
-    if (host().refuses("apply")) return false;
+bool ox_rpj_d2_rpj_is_needed(void* rpj) {
+    return are_given(__func__, {rpj}) && static_cast<reprojector*>(rpj)->needed;
+}
+bool ox_rpj_d2_apply_pv(void* rpj, void* pv) {
+    if (!are_given(__func__, {rpj, pv}) || host().refuses("apply")) return false;
     for (auto& [x, y] : *static_cast<line*>(pv)) x += host_double::shift_x, y += host_double::shift_y;
     return true;
 }
 void ox_rpj_d2_destroy(void* rpj) {
+    if (!are_given(__func__, {rpj})) return;
     --host().live["rpj"];
     delete static_cast<reprojector*>(rpj);
 }

@@ -1,21 +1,37 @@
 // The factories, in the order of the contract: a dialog without id, the utility, its dialog, the client.
 
-#include <chrono>
 #include <cstdio>
 #include <optional>
-#include <thread>
 
 #include "fault.h"
 #include "framework/local_factory.h"
 #include "framework/service_factory.h"
+#include "lifetime.h"
+#include "testing/processor_time.h"
 #include "toolkit/utility.h"
 #include "widget.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#endif
 
 namespace broken {
 
 namespace {
 
 constexpr wchar_t utility_id[] = L"oxk_broken_bundle";
+
+/// As a library stays that registers the end of something with the thread.
+void stay_mapped() {
+#if defined(_WIN32)
+    HMODULE own = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                       reinterpret_cast<const wchar_t*>(&stay_mapped), &own);
+#else
+    thread_local std::wstring mark;
+    mark = L"mark";
+#endif
+}
 
 class utility final : public ox::util::referent<ox::utility_service_impl>,
                       public ox::toolkit::utility<widget, utility_id, 0> {
@@ -33,13 +49,32 @@ public:
         ox::call<&ox::utility_visitor_impl::visit>(utility_visitor, utility_id,
                                                    ox::make_pointer<ox::utility_impl>(*this));
     }
-    std::size_t add_referrer(custom_pointer referrer) override {
-        return is(fault::forgets_pins) && !referrer ? 0 : obj::add_referrer(referrer);
+    std::size_t add_referrer(custom_pointer referrer) override { return lifetime_.add(referrer); }
+    void remove_referrer(custom_pointer referrer) override {
+        if (lifetime_.remove(referrer, self())) delete this;
+    }
+
+    void visit_caption(custom_pointer string_visitor) override {
+        const custom_pointer now = ox::current_localizer();
+        if (now) localizer_ = now;
+        if (is(fault::asks_ended_localizer) && !now && localizer_)
+            ox::call<&ox::localizer_impl::visit_string>(
+                localizer_, std::uint32_t{ox::text::batch_project_sections}, string_visitor);
+        else
+            ox::toolkit::utility<widget, utility_id, 0>::visit_caption(string_visitor);
     }
     void run() override {
+        if (is(fault::stays_mapped)) stay_mapped();
         if (is(fault::acts_unseen) && !ox::util::dialog_host<utility_id>()) widget().apply();
         ox::toolkit::utility<widget, utility_id, 0>::run();
     }
+    void reserved() override {
+        if (is(fault::shows_unasked)) run();
+    }
+
+private:
+    lifetime lifetime_;
+    custom_pointer localizer_{};  ///< the last one that there was
 };
 
 auto holders() {
@@ -53,7 +88,8 @@ auto holders() {
 
 struct loading {
     loading() {
-        if (is(fault::slow_load)) std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        const auto start = processor_time();
+        while (is(fault::slow_load) && processor_time() - start < std::chrono::milliseconds(120)) continue;
         if (is(fault::noisy_load)) std::fputs("broken bundle: hello\n", stderr);
         if (is(fault::leaks_memory)) {
             char* volatile lost = new char[2000];
@@ -89,6 +125,22 @@ struct registration {
     std::optional<out_of_order> wrong;
 } factories;
 ox::detail::local_factory_impl local_client;
+
+/// A factory after those of the contract, which publishes nothing of its own.
+class late_factory final : public ox::custom_client_factory_impl {
+public:
+    late_factory() : custom_client_factory_impl(nullptr) {}
+    void create(custom_pointer context, custom_pointer registry) override {
+        using slot = custom_pointer (*)(const void*, void*);
+        if (is(fault::trusts_context))
+            static_cast<const slot*>(context.table)[0](context.table, context.object);
+        if (is(fault::publishes_anew) && ++creations_ > 1)
+            factories.right->plain_dialogs.create(context, registry);
+    }
+
+private:
+    int creations_ = 0;
+} late;
 
 }  // namespace
 

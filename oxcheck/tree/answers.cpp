@@ -1,0 +1,202 @@
+#include "oxcheck/tree/answers.h"
+
+#include <sstream>
+
+#include "oxcheck/stage/anything.h"
+#include "oxcheck/stage/lent.h"
+#include "testing/host_double/host_double.h"
+
+namespace oxcheck {
+
+namespace {
+
+/// The answers of one element, as they come.
+class reading {
+public:
+    explicit reading(const element& each) : asked_(each.pointer), rows_(rows_of(each)) {}
+
+    template <auto Operation, class... A>
+    auto value(const char* name, A... arguments) {
+        const auto answer = ox::call<Operation>(asked_, arguments...);
+        text_ << name << " " << answer << "\n";
+        return answer;
+    }
+    template <auto Visit, class... A>
+    void text(const char* name, A... arguments) {
+        const std::wstring answer =
+            read_text([&](custom_pointer visitor) { ox::call<Visit>(asked_, arguments..., visitor); });
+        text_ << name << " \"" << host_double::narrow(answer) << "\"\n";
+    }
+    template <class Do>
+    void for_each_row(Do work) {
+        for (std::uint32_t row = 0; row < rows_; ++row) {
+            anything item(row);
+            work(item.pointer());
+        }
+    }
+    std::string all() const { return text_.str(); }
+
+private:
+    custom_pointer asked_;
+    std::uint32_t rows_;
+    std::ostringstream text_;
+};
+
+// One per kind of element; kinds of which nothing is drawn have none.
+
+void read(reading& in, const ox::docker_impl*) { in.text<&ox::docker_impl::visit_caption>("caption"); }
+
+void read(reading& in, const ox::grid_layout_impl*) {
+    using I = ox::grid_layout_impl;
+    in.value<&I::layout_value>("layout value");
+    const std::int32_t columns = in.value<&I::column_count>("columns");
+    const std::int32_t rows = in.value<&I::row_count>("rows");
+    for (std::int32_t i = 0; i < columns; ++i) {
+        in.value<&I::column_expands>("column expands", i);
+        in.value<&I::column_value>("column value", i);
+        in.value<&I::column_shown>("column shown", i);
+    }
+    for (std::int32_t i = 0; i < rows; ++i) {
+        in.value<&I::row_expands>("row expands", i);
+        in.value<&I::row_value>("row value", i);
+        in.value<&I::row_shown>("row shown", i);
+    }
+}
+
+void read(reading& in, const ox::stack_layout_impl*) {
+    in.value<&ox::stack_layout_impl::child_count>("panels");
+    in.value<&ox::stack_layout_impl::current>("current panel");
+}
+
+void read(reading& in, const ox::groupbox_impl*) {
+    in.text<&ox::groupbox_impl::visit_caption>("caption");
+    in.text<&ox::groupbox_impl::visit_second_text>("second text");
+    in.value<&ox::groupbox_impl::flag>("flag");
+}
+
+void read(reading& in, const ox::label_impl*) {
+    in.text<&ox::label_impl::visit_caption>("caption");
+    in.value<&ox::label_impl::enabled>("enabled");
+}
+
+void read(reading& in, const ox::button_impl*) {
+    using I = ox::button_impl;
+    in.text<&I::visit_caption>("caption");
+    in.text<&I::visit_hint>("hint");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::flag_2>("flag 2");
+    in.value<&I::flag_4>("flag 4");
+}
+
+void read(reading& in, const ox::input_impl*) {
+    using I = ox::input_impl;
+    in.text<&I::visit_text>("text");
+    in.text<&I::visit_caption>("caption");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::flag_2>("flag 2");
+    in.value<&I::flag_3>("flag 3");
+    in.value<&I::value>("value");
+}
+
+void read(reading& in, const ox::floating_input_impl*) {
+    using I = ox::floating_input_impl;
+    in.value<&I::value>("value");
+    in.value<&I::minimum>("minimum");
+    in.value<&I::maximum>("maximum");
+    in.value<&I::decimals>("decimals");
+    in.text<&I::visit_caption>("caption");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::read_only>("read-only");
+}
+
+void read(reading& in, const ox::dropdown_impl*) {
+    using I = ox::dropdown_impl;
+    const std::uint32_t items = in.value<&I::item_count>("items");
+    for (std::uint32_t i = 0; i < items; ++i) in.text<&I::visit_item>("item", i);
+    in.text<&I::visit_text>("text");
+    in.value<&I::value>("value");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::current>("current item");
+}
+
+void read(reading& in, const ox::multiline_output_impl*) {
+    using I = ox::multiline_output_impl;
+    in.text<&I::visit_text>("text");
+    in.text<&I::visit_caption>("caption");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::first_value>("first value");
+    in.value<&I::second_value>("second value");
+}
+
+void read(reading& in, const ox::outline_impl*) {
+    using I = ox::outline_impl;
+    in.value<&I::column_count>("columns");
+    in.value<&I::child_count>("rows", custom_pointer{});
+    in.for_each_row([&in](custom_pointer item) { in.value<&I::is_selected>("row selected", item); });
+}
+
+void read(reading& in, const ox::outline_checks_impl*) {
+    in.for_each_row(
+        [&in](custom_pointer item) { in.value<&ox::outline_checks_impl::state>("row checked", item); });
+}
+
+void read(reading& in, const ox::string_outline_column_impl*) {
+    using I = ox::string_outline_column_impl;
+    in.text<&I::visit_caption>("caption");
+    in.for_each_row([&in](custom_pointer item) {
+        in.text<&I::visit_cell_text>("cell", item);
+        in.text<&I::visit_cell_hint>("cell hint", item);
+        in.value<&I::highlight>("cell highlighted", item);
+        in.value<&I::cell_is_editable>("cell editable", item);
+    });
+}
+
+void read(reading& in, const ox::bitmap_outline_column_impl*) {
+    in.text<&ox::bitmap_outline_column_impl::visit_caption>("caption");
+}
+
+void read(reading& in, const ox::action_tool_impl*) {
+    using I = ox::action_tool_impl;
+    in.text<&I::visit_caption>("caption");
+    in.text<&I::visit_hint>("hint");
+    in.text<&I::visit_long_text>("long text");
+    in.value<&I::enabled>("enabled");
+    in.value<&I::checked>("checked");
+}
+
+void read(reading& in, const ox::button_box_impl*) {
+    using I = ox::button_box_impl;
+    const std::int32_t buttons = in.value<&I::count>("buttons");
+    for (std::int32_t i = 0; i < buttons; ++i) {
+        in.text<&I::visit_caption>("caption", i);
+        in.value<&I::enabled>("enabled", i);
+    }
+    in.value<&I::default_index>("default button");
+    in.value<&I::second_index>("second button");
+}
+
+}  // namespace
+
+std::string answers_of(const element& each) {
+    reading answers(each);
+    with_kind_of(each, [&answers]<class I>() {
+        if constexpr (requires { read(answers, static_cast<const I*>(nullptr)); })
+            read(answers, static_cast<const I*>(nullptr));
+    });
+    return answers.all();
+}
+
+std::string first_difference(const std::string& a, const std::string& b) {
+    std::istringstream first(a), second(b);
+    std::string line, other;
+    while (true) {
+        const bool more = static_cast<bool>(std::getline(first, line));
+        const bool more_of_other = static_cast<bool>(std::getline(second, other));
+        if (!more && !more_of_other) return {};
+        if (!more) line = "nothing";
+        if (!more_of_other) other = "nothing";
+        if (line != other) return line + ", " + other;
+    }
+}
+
+}  // namespace oxcheck

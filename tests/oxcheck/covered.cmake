@@ -1,0 +1,17 @@
+# Compares the checks of oxcheck with those that the broken bundles are meant for: none without a bundle, no bundle
+# for nothing. cmake [-DEMULATOR=...] -DOXCHECK=... -DMEANT="check check ..." -P covered.cmake
+cmake_minimum_required(VERSION 3.21)
+separate_arguments(MEANT)
+execute_process(COMMAND ${EMULATOR} ${OXCHECK} --list OUTPUT_VARIABLE lines COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "(^|\n)[a-z]+\\.[a-z_]+" checks "${lines}")
+list(TRANSFORM checks STRIP)
+foreach(check ${checks})
+  if(NOT check IN_LIST MEANT)
+    message(SEND_ERROR "no broken bundle fails ${check}")
+  endif()
+endforeach()
+foreach(check ${MEANT})
+  if(NOT check IN_LIST checks)
+    message(SEND_ERROR "a broken bundle is meant for ${check}, which there is not")
+  endif()
+endforeach()
