@@ -44,9 +44,11 @@ public:
     auto ask(A... arguments) const {
         return ox::call<Operation>(judged_.pointer, arguments...);
     }
-    template <auto Visit>
-    bool has_text() const {
-        return !read_text([this](custom_pointer v) { ox::call<Visit>(judged_.pointer, v); }).empty();
+    template <auto Visit, class... A>
+    bool has_text(A... arguments) const {
+        return !read_text([&](custom_pointer v) {
+                    ox::call<Visit>(judged_.pointer, arguments..., v);
+                }).empty();
     }
     /// Whether there is a picture, which is as large as it says.
     template <auto Visit, class... A>
@@ -136,6 +138,11 @@ void judge(const judgement& the, const ox::button_box_impl*) {
 
 void judge(const judgement& the, const ox::outline_impl*) {
     using I = ox::outline_impl;
+    const std::uint32_t columns = the.ask<&I::column_count>();
+    for (std::uint32_t i = 0; i < columns; ++i)
+        the.expect(column_of(the.pointer(), i).size() == 1,
+                   "a column in place " + std::to_string(i) + " of " + std::to_string(columns),
+                   std::to_string(column_of(the.pointer(), i).size()));
     const auto current = current_row_of(the.pointer());
     the.expect(!current || *current < the.rows(),
                "a current one of " + std::to_string(the.rows()) + " rows, or none",
@@ -148,19 +155,14 @@ void judge(const judgement& the, const ox::outline_impl*) {
     }
 }
 
-void judge(const judgement& the, const ox::outline_checks_impl*) {
-    using I = ox::outline_checks_impl;
-    if (the.rows() == 0) return;
-    anything first(0);
-    const bool before = the.ask<&I::state>(first.pointer());
-    for (const bool state : {!before, before}) {
-        the.ask<&I::set_state>(first.pointer(), state);
-        the.expect(the.ask<&I::state>(first.pointer()) == state, "the state that was set last", "the other");
-    }
-}
-
 void judge(const judgement& the, const ox::string_outline_column_impl*) {
     using I = ox::string_outline_column_impl;
+    for (std::uint32_t row = 0; row < the.rows(); ++row) {
+        anything item(row);
+        the.expect(the.has_text<&I::visit_cell_text>(item.pointer()) ||
+                       !the.has_text<&I::visit_cell_hint>(item.pointer()),
+                   "a text where there is a hint", "none in row " + std::to_string(row));
+    }
     for (std::uint32_t a = 0; a < the.rows(); ++a)
         for (std::uint32_t b = 0; b <= a; ++b) {
             anything first(a), second(b);
@@ -185,6 +187,46 @@ void judge_all(const std::vector<element>& dialog) {
         });
 }
 
+/// What was set is what is answered.
+void set_and_ask(const judgement& the, const ox::dropdown_impl*) {
+    using I = ox::dropdown_impl;
+    for (std::uint32_t i = 0; i < the.ask<&I::item_count>(); ++i) {
+        the.ask<&I::select>(i);
+        the.expect(the.ask<&I::current>() == i, "item " + std::to_string(i) + " when it was chosen",
+                   std::to_string(the.ask<&I::current>()));
+    }
+}
+
+void set_and_ask(const judgement& the, const ox::floating_input_impl*) {
+    using I = ox::floating_input_impl;
+    const double before = the.ask<&I::value>();
+    for (const double value : {0.5, before})
+        the.expect(
+            the.ask<&I::read_only>() || !the.ask<&I::set_value>(value) || the.ask<&I::value>() == value,
+            number(value) + " when it was entered", number(the.ask<&I::value>()));
+}
+
+void set_and_ask(const judgement& the, const ox::outline_checks_impl*) {
+    using I = ox::outline_checks_impl;
+    for (std::uint32_t row = 0; row < the.rows(); ++row) {
+        anything item(row);
+        const bool before = the.ask<&I::state>(item.pointer());
+        for (const bool state : {!before, before}) {
+            the.ask<&I::set_state>(item.pointer(), state);
+            the.expect(the.ask<&I::state>(item.pointer()) == state, "the state that was set last",
+                       "the other");
+        }
+    }
+}
+
+void set_and_ask_all(const std::vector<element>& dialog) {
+    for (const element& each : dialog)
+        with_kind_of(each, [&each]<class I>() {
+            if constexpr (requires { set_and_ask(judgement(each), static_cast<const I*>(nullptr)); })
+                set_and_ask(judgement(each), static_cast<const I*>(nullptr));
+        });
+}
+
 void fit_together(const subject& given) {
     script::set_stage();
     session started(given.bundle);
@@ -193,6 +235,7 @@ void fit_together(const subject& given) {
         seen = true;
         const std::vector<element> dialog = walk(docker, box);
         judge_all(dialog);
+        set_and_ask_all(dialog);
         user acting;
         acting.around = [&dialog](const act& done, const std::function<void()>& perform) {
             perform();

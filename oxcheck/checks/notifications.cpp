@@ -24,14 +24,15 @@ struct listening_view final : ox::outline_view_slots {
 struct viewed {
     std::vector<element> parts;  ///< the first is the one with the view
     listening_view view;
-    std::string before;                ///< the answers before what is done now
-    std::vector<std::string> changes;  ///< the answers when a change was told
+    std::string before, selected_before;  ///< the answers before what is done now
+    std::vector<std::string> changes;     ///< the answers when a change was told
     std::size_t selections = 0;
 
     bool is_table() const { return parts.front().is<ox::outline_impl>(); }
     bool has(const element& part) const {
         return std::ranges::any_of(parts, [&](const element& own) { return own.pointer == part.pointer; });
     }
+    std::string selection() const { return is_table() ? selection_of(parts.front()) : ""; }
     std::string answers() const {
         std::string all;
         for (const element& each : parts) all += answers_of(each);
@@ -64,6 +65,7 @@ public:
     void during(const act& done, const std::function<void()>& perform) {
         for (viewed& each : all_) {
             each.before = each.answers();
+            each.selected_before = each.selection();
             each.changes.clear();
             each.selections = 0;
         }
@@ -90,8 +92,11 @@ private:
             require(each.changes.front() == after, name + ", told when all has changed",
                     first_difference(each.changes.front(), after));
         if (told && !each.is_table()) require(after != each.before, name + ", not told of nothing", "it is");
-        if (!told && each.selections == 0 && !each.has(done.target))
+        if (!told && !each.has(done.target))
             require(after == each.before, name + ", told of a change", first_difference(each.before, after));
+        if (!told && each.selections == 0 && !each.has(done.target))
+            require(each.selection() == each.selected_before, name + ", told of a selection",
+                    first_difference(each.selected_before, each.selection()));
     }
 
     std::deque<viewed> all_;

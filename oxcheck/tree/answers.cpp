@@ -132,7 +132,6 @@ void read(reading& in, const ox::outline_impl*) {
     using I = ox::outline_impl;
     in.value<&I::column_count>("columns");
     in.value<&I::child_count>("rows", custom_pointer{});
-    in.for_each_row([&in](custom_pointer item) { in.value<&I::is_selected>("row selected", item); });
 }
 
 void read(reading& in, const ox::outline_checks_impl*) {
@@ -184,6 +183,15 @@ std::string answers_of(const element& each) {
             read(answers, static_cast<const I*>(nullptr));
     });
     return answers.all();
+}
+
+std::string selection_of(const element& outline) {
+    reading answers(outline);
+    answers.for_each_row([&answers](custom_pointer item) {
+        answers.value<&ox::outline_impl::is_selected>("row selected", item);
+    });
+    const auto current = current_row_of(outline.pointer);
+    return answers.all() + "current row " + (current ? std::to_string(*current) : "none") + "\n";
 }
 
 std::string first_difference(const std::string& a, const std::string& b) {

@@ -87,6 +87,9 @@ private:
 /// What stands in a cell of a grid: one element, or nothing.
 std::vector<element> cell_of(custom_pointer grid, std::int32_t column, std::int32_t row);
 
+/// What an outline shows in place of a column: one, as a rule.
+std::vector<element> column_of(custom_pointer outline, std::uint32_t index);
+
 /// The row that is an outline's current one, if there is any.
 std::optional<std::uint32_t> current_row_of(custom_pointer outline);
 

@@ -78,14 +78,8 @@ private:
         for (const received& each : checks->all)
             found.push_back({name_of<ox::outline_checks_impl>(), each.pointer, {}, outline});
         const std::uint32_t count = ox::call<&ox::outline_impl::column_count>(outline);
-        for (std::uint32_t i = 0; i < count; ++i) {
-            lending<column_sink> sink;
-            ox::call<&ox::outline_impl::visit_column>(outline, i, sink.pointer());
-            for (const received& each : sink->strings)
-                found.push_back({name_of<ox::string_outline_column_impl>(), each.pointer, each.id, outline});
-            for (const received& each : sink->bitmaps)
-                found.push_back({name_of<ox::bitmap_outline_column_impl>(), each.pointer, each.id, outline});
-        }
+        for (std::uint32_t i = 0; i < count; ++i)
+            for (const element& each : column_of(outline, i)) found.push_back(each);
     }
 
     void add_menu(custom_pointer button) {
@@ -120,6 +114,17 @@ std::vector<element> cell_of(custom_pointer grid, std::int32_t column, std::int3
     lending<element_sink> sink;
     ox::call<&ox::grid_layout_impl::visit_cell>(grid, column, row, sink.pointer());
     return sink->all;
+}
+
+std::vector<element> column_of(custom_pointer outline, std::uint32_t index) {
+    lending<column_sink> sink;
+    ox::call<&ox::outline_impl::visit_column>(outline, index, sink.pointer());
+    std::vector<element> columns;
+    for (const received& each : sink->strings)
+        columns.push_back({name_of<ox::string_outline_column_impl>(), each.pointer, each.id, outline});
+    for (const received& each : sink->bitmaps)
+        columns.push_back({name_of<ox::bitmap_outline_column_impl>(), each.pointer, each.id, outline});
+    return columns;
 }
 
 std::optional<std::uint32_t> current_row_of(custom_pointer outline) {
