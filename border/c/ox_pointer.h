@@ -59,6 +59,7 @@ static inline bool ox_is_same(ox_pointer a, ox_pointer b) {
     return a.table == b.table && a.object == b.object;
 }
 
+// NOLINTBEGIN(modernize-use-nullptr): this is C
 /// The interface `name` of the object behind a pointer of any interface; empty when it has none of that name.
 static inline ox_pointer ox_cast(ox_pointer any, const char* name) {
     ox_pointer polymorphic = {NULL, NULL}, found = {NULL, NULL};
@@ -68,3 +69,4 @@ static inline ox_pointer ox_cast(ox_pointer any, const char* name) {
     if (ox_is_empty(found)) found.table = found.object = NULL;
     return found;
 }
+// NOLINTEND(modernize-use-nullptr)
