@@ -31,7 +31,7 @@ public:
                 ox::call<&ox::outline_checks_impl::state>(part.pointer, item_))
                 return "it is checked";
             if (part.is<ox::string_outline_column_impl>())
-                if (const std::string found = column_fault(part.pointer); !found.empty()) return found;
+                if (std::string found = column_fault(part.pointer); !found.empty()) return found;
         }
         return {};
     }
