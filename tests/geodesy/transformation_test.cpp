@@ -84,10 +84,33 @@ struct shift_case {
     point at;
 };
 
-class Shift : public testing::TestWithParam<shift_case> {};
-
-TEST_P(Shift, IsTheClosedFormHelmert) {
-    const auto& [name, source, a, rf, shift, at] = GetParam();
+TEST_CASES(Shift, IsTheClosedFormHelmert, shift_case,
+           {"Pulkovo",
+            "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +lon_wrap=45",
+            6378245,
+            298.3,
+            {23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22},
+            {39, 55}},
+           {"ThreeParameters",
+            "+proj=longlat +ellps=intl +towgs84=-84.87,-96.49,-116.95",
+            6378388,
+            297,
+            {-84.87, -96.49, -116.95, 0, 0, 0, 0},
+            {2.1309658, 53.8101564}},
+           // PROJ would look for a grid, of which some of its packages bring a copy
+           {"PotsdamByName",
+            "+proj=longlat +datum=potsdam",
+            6377397.155,
+            299.1528128,
+            {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7},
+            {9, 50}},
+           {"OsgbByName",
+            "+proj=longlat +datum=OSGB36",
+            6377563.396,
+            299.3249646,
+            {446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
+            {-1.5, 53}}) {
+    const auto& [name, source, a, rf, shift, at] = c;
     const point expected = closed_form::geographic(
         closed_form::position_vector(closed_form::cartesian(at, a, rf), shift), 6378137, 298.257223563);
     polyline line{at};
@@ -99,36 +122,6 @@ TEST_P(Shift, IsTheClosedFormHelmert) {
     EXPECT_NEAR(line[0].x, at.x, 2e-8);
     EXPECT_NEAR(line[0].y, at.y, 2e-8);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Datums, Shift,
-    testing::Values(
-        shift_case{"Pulkovo",
-                   "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +lon_wrap=45",
-                   6378245,
-                   298.3,
-                   {23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22},
-                   {39, 55}},
-        shift_case{"ThreeParameters",
-                   "+proj=longlat +ellps=intl +towgs84=-84.87,-96.49,-116.95",
-                   6378388,
-                   297,
-                   {-84.87, -96.49, -116.95, 0, 0, 0, 0},
-                   {2.1309658, 53.8101564}},
-        // PROJ would look for a grid, of which some of its packages bring a copy
-        shift_case{"PotsdamByName",
-                   "+proj=longlat +datum=potsdam",
-                   6377397.155,
-                   299.1528128,
-                   {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7},
-                   {9, 50}},
-        shift_case{"OsgbByName",
-                   "+proj=longlat +datum=OSGB36",
-                   6377563.396,
-                   299.3249646,
-                   {446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
-                   {-1.5, 53}}),
-    case_name);
 
 TEST(Shift, OfBothSidesWithoutHeight) {
     const std::array<double, 7> pulkovo{23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22};

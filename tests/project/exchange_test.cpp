@@ -66,33 +66,26 @@ struct layer_crs {
     const char* target;
     const char* proj4;  // contained in what the import gives
 };
-class ImportCrs : public testing::TestWithParam<layer_crs> {};
-
 /// GDAL's own tool writes the source; eastings and longitudes come first whatever the authority says.
-TEST_P(ImportCrs, KeepsDatumAndAxes) {
+TEST_CASES(ImportCrs, KeepsDatumAndAxes, layer_crs, {"GaussKrueger", "EPSG:28407", "+x_0=7500000"},
+           {"LatitudeFirst", "EPSG:4326", "+proj=longlat"}) {
     const workspace folder;
     write_bytes(
         folder / "s.geojson",
         R"({"type": "Feature", "properties": {}, "geometry": {"type": "LineString", "coordinates": [[39, 55], [39, 56]]}})");
     for (const char* kind : {"gpkg", "shp", "gml"}) {
         const fs::path source = folder / (std::string("t.") + kind);
-        output_of("ogr2ogr -t_srs '" + std::string(GetParam().target) + "' " + source.string() + " " +
+        output_of("ogr2ogr -t_srs '" + std::string(c.target) + "' " + source.string() + " " +
                   (folder / "s.geojson").string());
         const imported read = import(source);
         ASSERT_EQ(read.scenes.size(), 1U) << kind;
-        EXPECT_NE(read.scenes[0].proj4.find(GetParam().proj4), std::string::npos)
-            << kind << read.scenes[0].proj4;
+        EXPECT_NE(read.scenes[0].proj4.find(c.proj4), std::string::npos) << kind << read.scenes[0].proj4;
         EXPECT_LT((*read.scenes[0].line)[0].x, 8e6) << kind;
         const auto [x, y] = (*read.scenes[0].line)[0];
         EXPECT_TRUE(y > 6e6 ? x > 7.4e6 && x < 7.6e6 : x > 38 && x < 40 && y > 54 && y < 56)
             << kind << x << " " << y;
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Layers, ImportCrs,
-                         testing::Values(layer_crs{"GaussKrueger", "EPSG:28407", "+x_0=7500000"},
-                                         layer_crs{"LatitudeFirst", "EPSG:4326", "+proj=longlat"}),
-                         case_name);
 
 class RoundTrip : public testing::TestWithParam<std::string> {};
 

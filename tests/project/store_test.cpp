@@ -21,52 +21,41 @@ struct bad_file {
     const char* complaint;
 };
 
-class Refuses : public testing::TestWithParam<bad_file> {};
-
-TEST_P(Refuses, WithoutTouching) {
-    const workspace folder;
-    const fs::path file = folder / "p.gpkg";
-    make_project(file);
-    GetParam().damage(file);
-    const std::string before = fs::is_regular_file(file) ? bytes_of(file) : "";
-    for (open_mode mode : {open_mode::read_write, open_mode::read_only, open_mode::scratch}) {
-        const std::string error = error_of([&] { project::open(file, mode); });
-        EXPECT_TRUE(error.starts_with(file.string() + ": " + GetParam().complaint)) << error;
-        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
-    }
-    EXPECT_TRUE((fs::is_regular_file(file) ? bytes_of(file) : "") == before) << "the file was changed";
-}
-
 auto sql(const std::string& statement) {
     return [statement](const fs::path& file) { run_sql(file, statement); };
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, Refuses,
-    testing::Values(bad_file{"Missing", [](const fs::path& f) { fs::remove(f); }, "no such file"},
-                    bad_file{"Folder", [](const fs::path& f) { fs::remove(f), fs::create_directory(f); },
-                             "is not a file"},
-                    bad_file{"Text", [](const fs::path& f) { write_bytes(f, std::string(5000, 'x')); },
-                             "is no SQLite database"},
-                    bad_file{"ZeroBytes", [](const fs::path& f) { write_bytes(f, ""); }, "is no GeoPackage"},
-                    bad_file{"PlainSqlite", sql("PRAGMA application_id=0"), "is no GeoPackage"},
-                    bad_file{"ForeignLayer", sql("UPDATE gpkg_geometry_columns SET table_name='roads'"),
-                             "is a GeoPackage, but no project"},
-                    bad_file{"ColumnMissing", sql("ALTER TABLE scenes DROP COLUMN proj4"),
-                             "is a GeoPackage, but no project: its layer 'scenes' lacks proj4"},
-                    bad_file{"Truncated",
-                             [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 8192); },
-                             "is damaged"},
-                    bad_file{"PagesOverwritten",
-                             [](const fs::path& f) {
-                                 const std::string bytes = bytes_of(f);
-                                 write_bytes(
-                                     f, bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x5a'));
-                             },
-                             "is damaged"},
-                    bad_file{"BlobDamaged", sql("UPDATE scenes SET geom=substr(geom, 1, 60) WHERE fid=2"),
-                             "scene 1 \"Plan\": geometry is cut short"}),
-    case_name);
+TEST_CASES(
+    Refuses, WithoutTouching, bad_file, {"Missing", [](const fs::path& f) { fs::remove(f); }, "no such file"},
+    {"Folder", [](const fs::path& f) { fs::remove(f), fs::create_directory(f); }, "is not a file"},
+    {"Text", [](const fs::path& f) { write_bytes(f, std::string(5000, 'x')); }, "is no SQLite database"},
+    {"ZeroBytes", [](const fs::path& f) { write_bytes(f, ""); }, "is no GeoPackage"},
+    {"PlainSqlite", sql("PRAGMA application_id=0"), "is no GeoPackage"},
+    {"ForeignLayer", sql("UPDATE gpkg_geometry_columns SET table_name='roads'"),
+     "is a GeoPackage, but no project"},
+    {"ColumnMissing", sql("ALTER TABLE scenes DROP COLUMN proj4"),
+     "is a GeoPackage, but no project: its layer 'scenes' lacks proj4"},
+    {"Truncated", [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 8192); }, "is damaged"},
+    {"PagesOverwritten",
+     [](const fs::path& f) {
+         const std::string bytes = bytes_of(f);
+         write_bytes(f, bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x5a'));
+     },
+     "is damaged"},
+    {"BlobDamaged", sql("UPDATE scenes SET geom=substr(geom, 1, 60) WHERE fid=2"),
+     "scene 1 \"Plan\": geometry is cut short"}) {
+    const workspace folder;
+    const fs::path file = folder / "p.gpkg";
+    make_project(file);
+    c.damage(file);
+    const std::string before = fs::is_regular_file(file) ? bytes_of(file) : "";
+    for (open_mode mode : {open_mode::read_write, open_mode::read_only, open_mode::scratch}) {
+        const std::string error = error_of([&] { project::open(file, mode); });
+        EXPECT_TRUE(error.starts_with(file.string() + ": " + c.complaint)) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+    }
+    EXPECT_TRUE((fs::is_regular_file(file) ? bytes_of(file) : "") == before) << "the file was changed";
+}
 
 TEST(Store, KeepsScenesInOneCleanFile) {
     const workspace folder;
@@ -93,18 +82,17 @@ struct visit {
     open_mode mode;
     bool changes;
 };
-class Untouched : public testing::TestWithParam<visit> {};
-
-TEST_P(Untouched, EveryByte) {
+TEST_CASES(Untouched, EveryByte, visit, {"ReadOnly", open_mode::read_only, false},
+           {"WritableUnchanged", open_mode::read_write, false}, {"DryRun", open_mode::scratch, true}) {
     const workspace folder;
     make_project(folder / "p.gpkg");
     const std::string before = bytes_of(folder / "p.gpkg");
     {
-        auto opened = project::open(folder / "p.gpkg", GetParam().mode);
+        auto opened = project::open(folder / "p.gpkg", c.mode);
         opened->begin_update(*opened->at(0));
         opened->lend_line(*opened->at(0));
         opened->end_update(*opened->at(0));
-        if (GetParam().changes) {
+        if (c.changes) {
             opened->set_proj4(*opened->at(0), "new");
             opened->append(sample_scenes);
             EXPECT_EQ(opened->state(0).proj4, "new");
@@ -113,12 +101,6 @@ TEST_P(Untouched, EveryByte) {
     EXPECT_TRUE(bytes_of(folder / "p.gpkg") == before);
     EXPECT_EQ(folder.files(), 1U);
 }
-
-INSTANTIATE_TEST_SUITE_P(Modes, Untouched,
-                         testing::Values(visit{"ReadOnly", open_mode::read_only, false},
-                                         visit{"WritableUnchanged", open_mode::read_write, false},
-                                         visit{"DryRun", open_mode::scratch, true}),
-                         case_name);
 
 TEST(Store, RefusesWhatIsInUse) {
     const workspace folder;

@@ -141,9 +141,13 @@ struct match_case {
     std::uint32_t id;
 };
 
-class CatalogueMatch : public testing::TestWithParam<match_case> {};
-
-TEST_P(CatalogueMatch, FindsTheFirst) {
+TEST_CASES(CatalogueMatch, FindsTheFirst, match_case, {"OtherProjection", {.proj = "lcc"}, 0},
+           {"South", {.proj = "TMERC", .south = true}, 1},
+           {"CloseLatitude", {.proj = "tmerc", .lat_0 = 30.00009, .has_k_0 = true}, 2},
+           {"FarLatitude", {.proj = "tmerc", .lat_0 = 30.0002, .has_k_0 = true}, 4},
+           {"NothingAsked", {.proj = "tmerc"}, 3}, {"ScaleFactor", {.proj = "tmerc", .has_k_0 = true}, 4},
+           {"TrueScaleHidesScaleFactor", {.proj = "tmerc", .has_lat_ts = true, .has_k_0 = true}, 3},
+           {"BothParallels", {.proj = "tmerc", .has_lat_1 = true, .has_lat_2 = true}, 0}) {
     ox::Tox_pj_proj_list list;
     const auto add = [&](auto describe) {
         auto& record = list.append();
@@ -155,22 +159,9 @@ TEST_P(CatalogueMatch, FindsTheFirst) {
     add([](auto& r) { r.lat_0 = {{false, true, true}, false, false, 0, 0, 30}, r.k_0.used = true; });
     add([](auto& r) { r.lat_ts.used = r.lat_1.used = true; });
     add([](auto& r) { r.k_0.used = r.lat_2.used = true; });
-    const auto* found = ox::match_proj4(list, GetParam().text);
-    EXPECT_EQ(found ? found->id : 0, GetParam().id);
+    const auto* found = ox::match_proj4(list, c.text);
+    EXPECT_EQ(found ? found->id : 0, c.id);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, CatalogueMatch,
-    testing::Values(
-        match_case{"OtherProjection", {.proj = "lcc"}, 0},
-        match_case{"South", {.proj = "TMERC", .south = true}, 1},
-        match_case{"CloseLatitude", {.proj = "tmerc", .lat_0 = 30.00009, .has_k_0 = true}, 2},
-        match_case{"FarLatitude", {.proj = "tmerc", .lat_0 = 30.0002, .has_k_0 = true}, 4},
-        match_case{"NothingAsked", {.proj = "tmerc"}, 3},
-        match_case{"ScaleFactor", {.proj = "tmerc", .has_k_0 = true}, 4},
-        match_case{"TrueScaleHidesScaleFactor", {.proj = "tmerc", .has_lat_ts = true, .has_k_0 = true}, 3},
-        match_case{"BothParallels", {.proj = "tmerc", .has_lat_1 = true, .has_lat_2 = true}, 0}),
-    case_name);
 
 TEST(CatalogueFind, ZonesAndGeographicEntries) {
     ox::Tox_pj_proj_list list;

@@ -33,37 +33,28 @@ struct cell_case {
     bool as_bool;
 };
 
-class DbfCell : public testing::TestWithParam<cell_case> {};
-
-TEST_P(DbfCell, ReadsAsEveryType) {
-    const auto& cell = GetParam();
+TEST_CASES(DbfCell, ReadsAsEveryType, cell_case,
+           {"TextKeepsBlanks", 'C', 10, "abc", "abc       ", 0, 0, false},
+           {"BoolWord", 'C', 4, " Y ", " Y  ", 0, 0, true}, {"NoBoolWord", 'C', 3, "yes", "yes", 0, 0, false},
+           {"IntStopsAtPoint", 'N', 6, "  12.7", "  12.7", 12, 12.7, false},
+           {"Asterisks", 'N', 3, "***", "***", 0, 0, false},
+           {"TextStopsAtNul", 'C', 4, {'1', '\0', '2', '3'}, "1", 1, 1, true},
+           {"BinaryDouble", 'B', 8, bytes_of(-2.75), "-2.75", -2, -2.75, true},
+           {"BinaryDoubleTooLargeForInt", 'B', 8, bytes_of(1e300), "1e+300", INT32_MIN, 1e300, true},
+           {"BinaryInt", 'I', 4, bytes_of(70000), "70000", 70000, 70000, true},
+           {"NarrowBinaryInt", 'I', 2, bytes_of(513), "513", 513, 513, true}) {
     ox::Tox_dbf table;
     const auto path =
-        dbf_builder().column("PAD", 'C', 3).column("X", cell.type, cell.length).row({"", cell.bytes}).write();
+        dbf_builder().column("PAD", 'C', 3).column("X", c.type, c.length).row({"", c.bytes}).write();
     ASSERT_EQ(table.dbf_open(path, true), 0);
     std::uint32_t x = 0;
     ASSERT_TRUE(table.find_field(" x ", x));
     table.go_record(0);
-    EXPECT_EQ(table.get_text(x), cell.text);
-    EXPECT_EQ(table.get_int(x), cell.as_int);
-    EXPECT_EQ(table.get_double(x), cell.as_double);
-    EXPECT_EQ(table.get_bool(x), cell.as_bool);
+    EXPECT_EQ(table.get_text(x), c.text);
+    EXPECT_EQ(table.get_int(x), c.as_int);
+    EXPECT_EQ(table.get_double(x), c.as_double);
+    EXPECT_EQ(table.get_bool(x), c.as_bool);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, DbfCell,
-    testing::Values(cell_case{"TextKeepsBlanks", 'C', 10, "abc", "abc       ", 0, 0, false},
-                    cell_case{"BoolWord", 'C', 4, " Y ", " Y  ", 0, 0, true},
-                    cell_case{"NoBoolWord", 'C', 3, "yes", "yes", 0, 0, false},
-                    cell_case{"IntStopsAtPoint", 'N', 6, "  12.7", "  12.7", 12, 12.7, false},
-                    cell_case{"Asterisks", 'N', 3, "***", "***", 0, 0, false},
-                    cell_case{"TextStopsAtNul", 'C', 4, {'1', '\0', '2', '3'}, "1", 1, 1, true},
-                    cell_case{"BinaryDouble", 'B', 8, bytes_of(-2.75), "-2.75", -2, -2.75, true},
-                    cell_case{"BinaryDoubleTooLargeForInt", 'B', 8, bytes_of(1e300), "1e+300", INT32_MIN,
-                              1e300, true},
-                    cell_case{"BinaryInt", 'I', 4, bytes_of(70000), "70000", 70000, 70000, true},
-                    cell_case{"NarrowBinaryInt", 'I', 2, bytes_of(513), "513", 513, 513, true}),
-    case_name);
 
 TEST(Dbf, RunningDisplacementsAreFilledInAndStoredOnesKept) {
     ox::Tox_dbf table;

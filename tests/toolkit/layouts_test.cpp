@@ -47,10 +47,13 @@ struct layout_case {
     unsigned column_value, row_value;
 };
 
-class ButtonLayout : public testing::TestWithParam<layout_case> {};
-
-TEST_P(ButtonLayout, EndsInAnEmptyExpandingCell) {
-    const layout_case& c = GetParam();
+using direction = button_layout::direction;
+using sizes = button_layout::sizes;
+TEST_CASES(ButtonLayout, EndsInAnEmptyExpandingCell, layout_case,
+           {"Empty", direction::row, sizes::natural, 0, 1, 1, 0, 0},
+           {"Row", direction::row, sizes::equal_along, 3, 4, 1, 1, 0},
+           {"Column", direction::column, sizes::equal_along, 2, 1, 3, 0, 1},
+           {"Equal", direction::row, sizes::equal, 2, 3, 1, 1, 1}) {
     button_layout layout(c.along, c.sizes);
     for (int i = 0; i < c.buttons; ++i) layout.add(0, 1);
     EXPECT_EQ(layout.column_count(), c.columns);
@@ -64,16 +67,6 @@ TEST_P(ButtonLayout, EndsInAnEmptyExpandingCell) {
     layout.visit_cell(vertical ? 0 : c.buttons, vertical ? c.buttons : 0, seen.pointer());
     EXPECT_EQ(seen.kinds, "");
 }
-
-using direction = button_layout::direction;
-using sizes = button_layout::sizes;
-INSTANTIATE_TEST_SUITE_P(
-    Shapes, ButtonLayout,
-    testing::Values(layout_case{"Empty", direction::row, sizes::natural, 0, 1, 1, 0, 0},
-                    layout_case{"Row", direction::row, sizes::equal_along, 3, 4, 1, 1, 0},
-                    layout_case{"Column", direction::column, sizes::equal_along, 2, 1, 3, 0, 1},
-                    layout_case{"Equal", direction::row, sizes::equal, 2, 3, 1, 1, 1}),
-    case_name);
 
 }  // namespace
 }  // namespace ox::toolkit
