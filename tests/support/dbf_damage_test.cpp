@@ -22,13 +22,8 @@ void use_all(const std::string& path, bool read_only) {
     for (const std::uint32_t record : {0u, 1u, 5u, 0x7FFFFFFFu, 0xFFFFFFFEu}) {
         table.go_record(record);
         for (std::uint32_t i = 0; i < table.field_count() + 2; ++i) {
-            table.get_text(i);
-            table.get_int(i);
-            table.get_double(i);
-            table.get_bool(i);
-            if (record > 0) continue;
-            table.set_double(i, -1e300);
-            table.set_from_text(i, "12");
+            table.get_text(i), table.get_int(i), table.get_double(i), table.get_bool(i);
+            if (record == 0) table.set_double(i, -1e300), table.set_from_text(i, "12");
         }
     }
     table.append_blank_records(1);

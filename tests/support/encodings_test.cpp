@@ -38,15 +38,12 @@ TEST(StringAdapter, EachDeliveryReplacesTheTarget) {
         ox::Tox_std_wstring_adapter adapter(target);
         const auto& host = *static_cast<host_double::adapter*>(adapter.handle());
         EXPECT_EQ(target, L"before");
-        host.wide(L"\u0416", host.context);
-        EXPECT_EQ(target, L"\u0416");
-        host.narrow("abc", host.context);
-        EXPECT_EQ(target, L"abc");
-        host.narrow(nullptr, host.context);
-        EXPECT_EQ(target, L"");
+        const auto after = [&](auto deliver, auto* text) { return deliver(text, host.context), target; };
+        EXPECT_EQ(after(host.wide, L"\u0416"), L"\u0416");
+        EXPECT_EQ(after(host.narrow, "abc"), L"abc");
+        EXPECT_EQ(after(host.narrow, static_cast<const char*>(nullptr)), L"");
         host.wide(L"again", host.context);
-        host.wide(nullptr, host.context);
-        EXPECT_EQ(target, L"");
+        EXPECT_EQ(after(host.wide, static_cast<const wchar_t*>(nullptr)), L"");
     }
     EXPECT_EQ(host_double::host().alive(), 0);
 }
