@@ -60,10 +60,8 @@ TEST(Crs, NamesWhatIsWrong) {
     EXPECT_EQ(crs_of(texts::refused)->error, "utm: Invalid value for zone");
     EXPECT_EQ(crs_of("hello")->error, "no +proj= in the text");
     EXPECT_EQ(crs_of(" ")->error, "no projection");
-    for (const char* text : {"+proj=geocent +datum=WGS84", "+proj=cart +ellps=GRS80", "+proj=nonsense"}) {
-        EXPECT_FALSE(crs_of(text)->valid()) << text;
-        EXPECT_NE(crs_of(text)->error, "") << text;
-    }
+    for (const char* text : {"+proj=geocent +datum=WGS84", "+proj=cart +ellps=GRS80", "+proj=nonsense"})
+        EXPECT_TRUE(!crs_of(text)->valid() && crs_of(text)->error != "") << text;
 }
 
 TEST(Crs, CommaLocaleChangesNothing) {

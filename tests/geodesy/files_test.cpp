@@ -25,19 +25,16 @@ std::string refusal(const auto& load) {
 }
 
 TEST_F(ProjectionFiles, SavedAndLoadedLosesNothing) {
-    for (const std::string& text :
-         {texts::zone7, texts::wgs84, texts::utm37, texts::krass,
-          std::string("+proj=tmerc +lon_0=38.5 +ellps=krass +towgs84=23.92,-141.27,-80.9,0,0.35,0.82,-0.12"),
-          std::string("+proj=longlat +ellps=GRS80 +towgs84=0,0,0"),
-          std::string("+proj=longlat +datum=potsdam"),
-          std::string("+proj=lcc +lat_1=50 +lat_2=60 +lat_0=55 +lon_0=40 +ellps=krass +units=km"),
-          std::string("+proj=merc +a=6378137 +b=6378137 +nadgrids=@null +no_defs")}) {
+    for (const std::string& text : std::initializer_list<std::string>{
+             texts::zone7, texts::wgs84, texts::utm37, texts::krass,
+             "+proj=tmerc +lon_0=38.5 +ellps=krass +towgs84=23.92,-141.27,-80.9,0,0.35,0.82,-0.12",
+             "+proj=longlat +ellps=GRS80 +towgs84=0,0,0", "+proj=longlat +datum=potsdam",
+             "+proj=lcc +lat_1=50 +lat_2=60 +lat_0=55 +lon_0=40 +ellps=krass +units=km",
+             "+proj=merc +a=6378137 +b=6378137 +nadgrids=@null +no_defs"}) {
         save_prj(prj_, text);
         const auto loaded = load_prj(prj_);
         EXPECT_TRUE(equal(loaded, text)) << text << '\n' << loaded << '\n' << texts::read(prj_);
-        if (proj4_text(text).has("towgs84")) {
-            EXPECT_EQ(loaded, text);
-        }
+        EXPECT_TRUE(loaded == text || !proj4_text(text).has("towgs84")) << loaded;
         save_pj4(pj4_, text);
         EXPECT_EQ(load_pj4(pj4_), text);
     }
@@ -69,9 +66,9 @@ TEST_F(ProjectionFiles, ForeignPrjKeepsItsDatum) {
 }
 
 TEST_F(ProjectionFiles, OtherContentIsNoProjection) {
+    using namespace std::string_literals;
     for (const std::string& content :
-         {std::string(), std::string("hello"), std::string("PROJCS[\"cut", 8), std::string("{\"a\": [1]}"),
-          std::string("\0\1\2+proj=longlat", 16), std::string(2 << 20, 'x')}) {
+         {""s, "hello"s, "PROJCS[\""s, "{\"a\": [1]}"s, "\0\1\2+proj=longlat"s, std::string(2 << 20, 'x')}) {
         texts::write(prj_, content);
         texts::write(pj4_, content);
         EXPECT_TRUE(refusal([&] { load_prj(prj_); }).starts_with(prj_ + ": ")) << content.substr(0, 40);
@@ -91,9 +88,8 @@ TEST_F(ProjectionFiles, FailedSaveLeavesTheOldFile) {
     EXPECT_EQ(texts::read(prj_), before);
     EXPECT_THROW(save_pj4(folder_ / "no/such/folder.pj4", texts::utm37), file_error);
     EXPECT_THROW(save_pj4(folder_.path(), texts::utm37), file_error);
-    std::size_t files = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder_.path())) ++files;
-    EXPECT_EQ(files, 1U) << "a temporary file was left";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 1)
+        << "a temporary file was left";
 }
 
 }  // namespace
