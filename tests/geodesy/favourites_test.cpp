@@ -17,7 +17,7 @@ protected:
         return list;
     }
 
-    texts::scratch_folder folder_;
+    scratch_folder folder_;
 };
 
 TEST_F(Favourites, AreKept) {
@@ -60,17 +60,17 @@ TEST_F(Favourites, DamagedFilesAreKeptAside) {
     std::filesystem::create_directories(folder_ / "new/config");
     int number = 0;
     for (const char* content : {"", "{\"favourites\": [", "[]", "{\"favourites\": [{\"caption\": 1}]}"}) {
-        texts::write(favourites_path(), content);
+        write_bytes(favourites_path(), content);
         favourite_list list;
         const std::string said = list.load().value_or("nothing");
         const std::string aside = favourites_path() + ".damaged-" + std::to_string(++number);
         EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 0) << said;
         EXPECT_NE(said.find(aside), std::string::npos) << said;
-        EXPECT_EQ(texts::read(aside), content);
+        EXPECT_EQ(bytes_of(aside), content);
         EXPECT_EQ(list.count(), 0);
         list.add({"new", texts::utm37});
         list.save();
-        EXPECT_EQ(texts::read(aside), content);
+        EXPECT_EQ(bytes_of(aside), content);
     }
 }
 

@@ -23,15 +23,11 @@ void put(blob& to, auto value, bool little) {
 /// A blob written by hand; what a case changes is what is wrong, or unusual, about it.
 struct builder {
     char second_letter = 'P';
-    unsigned version = 0;
-    unsigned flags = 0;
-    unsigned envelope = 1;
+    unsigned version = 0, flags = 0, envelope = 1;
     bool little = true;
     unsigned order = 2;  // 2: as `little` says
-    std::uint32_t type = 2;
-    std::uint32_t count = 2;
-    std::size_t cut = 0;
-    std::size_t extra = 0;
+    std::uint32_t type = 2, count = 2;
+    std::size_t cut = 0, extra = 0;
 
     blob build() const {
         constexpr std::array<std::size_t, 8> doubles{0, 4, 6, 6, 8, 0, 0, 0};
