@@ -1,5 +1,5 @@
 #pragma once
-/// Names the cases of a parameterised test by their member `name`.
+/// Parameterised tests over a table of cases, which are named by their member `name`.
 
 #include <gtest/gtest.h>
 
@@ -12,3 +12,16 @@ struct case_name_of {
     }
 };
 inline constexpr case_name_of case_name;
+
+/// A test that runs once for each case, which its body calls `c`:
+///     TEST_CASES(Suite, Test, case_type, {"First", 1}, {"Second", 2}) { EXPECT_GT(c.value, 0); }
+/// `Suite` becomes a class. With _F it is derived from a fixture of its own.
+#define TEST_CASES_F(fixture, suite, test, type, ...)                                    \
+    struct suite : fixture, testing::WithParamInterface<type> {                          \
+        void check(const type& c);                                                       \
+    };                                                                                   \
+    const type suite##_cases[] = {__VA_ARGS__};                                          \
+    INSTANTIATE_TEST_SUITE_P(Cases, suite, testing::ValuesIn(suite##_cases), case_name); \
+    TEST_P(suite, test) { check(GetParam()); }                                           \
+    void suite::check(const type& c)
+#define TEST_CASES(suite, test, type, ...) TEST_CASES_F(testing::Test, suite, test, type, __VA_ARGS__)

@@ -15,16 +15,12 @@ struct numeric_parameter {
 };
 
 constexpr numeric_parameter numeric_parameters[] = {
-    {&ox::Tox_pj_proj::lon_0, &ox::Tox_proj4_params::lon_0, 45},
-    {&ox::Tox_pj_proj::lonc, &ox::Tox_proj4_params::lonc, 45},
-    {&ox::Tox_pj_proj::lat_0, &ox::Tox_proj4_params::lat_0, 50},
-    {&ox::Tox_pj_proj::lat_1, &ox::Tox_proj4_params::lat_1, 50},
-    {&ox::Tox_pj_proj::lat_ts, &ox::Tox_proj4_params::lat_ts, 70},
-    {&ox::Tox_pj_proj::lat_2, &ox::Tox_proj4_params::lat_2, 56},
-    {&ox::Tox_pj_proj::k_0, &ox::Tox_proj4_params::k_0, 0.9996},
-    {&ox::Tox_pj_proj::alpha, &ox::Tox_proj4_params::alpha, 30},
-    {&ox::Tox_pj_proj::x_0, &ox::Tox_proj4_params::x_0, 500000},
-    {&ox::Tox_pj_proj::y_0, &ox::Tox_proj4_params::y_0, 100000},
+#define PARAMETER(name, plausible) \
+    { &ox::Tox_pj_proj::name, &ox::Tox_proj4_params::name, plausible }
+    PARAMETER(lon_0, 45),   PARAMETER(lonc, 45),   PARAMETER(lat_0, 50),   PARAMETER(lat_1, 50),
+    PARAMETER(lat_ts, 70),  PARAMETER(lat_2, 56),  PARAMETER(k_0, 0.9996), PARAMETER(alpha, 30),
+    PARAMETER(x_0, 500000), PARAMETER(y_0, 100000)
+#undef PARAMETER
 };
 
 tables load() {
@@ -102,6 +98,12 @@ ox::Tox_proj4_params plausible_inputs(const ox::Tox_pj_proj& record) {
         (inputs.*p.parameter).set_value(within ? p.plausible : (slot.min + slot.max) / 2);
     }
     return inputs;
+}
+
+ox::Tox_pj_proj geographic() {
+    ox::Tox_pj_proj record;
+    record.proj = "longlat";
+    return record;
 }
 
 double named_meridian(const ox::Tox_pj_proj& zone) {

@@ -38,8 +38,7 @@ confirmed expect_unchanged(const std::string& text) {
 
 TEST(CatalogueComposedTexts, OfUsualProjectionsComeBackUnchangedAndProject) {
     std::map<std::string, std::string> renamed;
-    for (std::size_t row = 0; row < built().usual.size(); ++row) {
-        const auto& record = built().usual[row];
+    for_each_usual([&](const auto& record, const auto&) {
         const auto text = compose(record, plausible_inputs(record), &wgs84(), &ellps_of(wgs84()));
         if (const auto taken_for = expect_unchanged(text).projection; taken_for != record.name)
             renamed[record.name] = taken_for;
@@ -48,25 +47,36 @@ TEST(CatalogueComposedTexts, OfUsualProjectionsComeBackUnchangedAndProject) {
                                 : record.south.used    ? -80
                                                        : 51;
         EXPECT_TRUE(project(crs_of_text(text).get(), longitude + 1, latitude)) << record.name << ": " << text;
-    }
+    });
     // Nothing in a text tells them apart.
     EXPECT_EQ(renamed,
               (std::map<std::string, std::string>{{"Gauss-Kruger (any meridian)", "Transverse Mercator"}}));
 }
 
-TEST(CatalogueComposedTexts, OfDatumsAndEllipsoidsComeBackUnchanged) {
-    ox::Tox_pj_proj geographic;
-    geographic.proj = "longlat";
-    for (std::size_t row = 0; row < built().datums.size(); ++row) {
-        const auto& datum = built().datums[row];
-        expect_unchanged(compose(geographic, {}, &datum, &ellps_of(datum)));
-    }
+/// Were numbers taken for another datum's, PROJ would take other numbers or a grid for its name.
+TEST(CatalogueComposedTexts, OfDatumsComeBackUnchangedAndKeepTheirNumbers) {
+    for_each_datum([](const auto& datum, const auto&) {
+        expect_unchanged(compose(geographic(), {}, &datum, &ellps_of(datum)));
+        const auto* found = find_datum_by_params(built().datums, datum.ellps_id, datum.towgs84());
+        EXPECT_TRUE(found->code.empty() || found->code == "WGS84" || found == &datum) << datum.name;
+    });
+}
+
+TEST(CatalogueComposedTexts, OfEllipsoidsComeBackUnchanged) {
     const ox::Tox_pj_datum no_shift;
-    for (std::size_t row = 0; row < built().ellps.size(); ++row) {
+    for_each(built().ellps, built().sources.ellipsoids, [&](const auto& ellps, const auto&) {
         // A datum is always current, so a text without shift comes back with one: of zeros, or WGS 84's.
-        const auto text = compose(geographic, {}, &no_shift, &built().ellps[row]);
-        expect_unchanged(through_dialog(text).text);
-    }
+        expect_unchanged(through_dialog(compose(geographic(), {}, &no_shift, &ellps)).text);
+    });
+}
+
+TEST(CatalogueComposedTexts, OfZonesAreRecognisedWithTheirZone) {
+    for_each_zone([](const auto& record, const auto&, const auto& datum) {
+        const auto text = compose(record, {}, &datum, &ellps_of(datum));
+        const auto result = expect_unchanged(text);
+        EXPECT_EQ(result.projection, record.name) << text;
+        EXPECT_EQ(result.zone, record.zone.value) << text;
+    });
 }
 
 struct axes_case {
@@ -84,27 +94,6 @@ TEST(CatalogueAxes, OfCommonTextsAreKnown) {
                           axes_case{"WebMapSphere", 6378137, 6378137, {}, "Sphere (R=6378137, web maps)"}}) {
         const auto* found = find_ellps_by_axes(built().ellps, c.a, c.b, c.rf);
         EXPECT_EQ(found ? found->name : "", c.ellipsoid) << c.name;
-    }
-}
-
-TEST(CatalogueComposedTexts, OfZonesAreRecognisedWithTheirZone) {
-    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
-        const auto& record = built().zonal[row];
-        const auto* datum = find_datum_by_name(built().datums, record.datum.text);
-        ASSERT_TRUE(datum) << record.name;
-        const auto text = compose(record, {}, datum, &ellps_of(*datum));
-        const auto result = expect_unchanged(text);
-        EXPECT_EQ(result.projection, record.name) << text;
-        EXPECT_EQ(result.zone, record.zone.value) << text;
-    }
-}
-
-/// Otherwise a text's numbers would turn into a named datum, for which PROJ takes other numbers or a grid.
-TEST(CatalogueComposedTexts, WithNumbersKeepThem) {
-    for (std::size_t row = 0; row < built().datums.size(); ++row) {
-        const auto& datum = built().datums[row];
-        const auto* found = find_datum_by_params(built().datums, datum.ellps_id, datum.towgs84());
-        EXPECT_TRUE(found->code.empty() || found->code == "WGS84" || found == &datum) << datum.name;
     }
 }
 

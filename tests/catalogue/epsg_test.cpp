@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
 #include "catalogue_tables.h"
 #include "proj_objects.h"
@@ -22,49 +21,42 @@ std::string printed(double value, int digits = 12) {
 }
 
 /// Equal, or equal to all digits of a text of 12 and more, for what PROJ computes from another unit.
-void expect_number(const std::string& text, double value, const std::string& what) {
+void expect_number(const std::string& text, double value) {
     const double number = ox::scan_double(text).value();
-    const auto digits = std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; });
-    if (digits < 12 || number == value) {
-        EXPECT_EQ(number, value) << what;
-    } else {
-        EXPECT_EQ(printed(number, static_cast<int>(digits)), printed(value, static_cast<int>(digits)))
-            << what;
-    }
+    const auto digits =
+        static_cast<int>(std::ranges::count_if(text, [](char c) { return c >= '0' && c <= '9'; }));
+    EXPECT_TRUE(number == value || (digits >= 12 && printed(number, digits) == printed(value, digits)))
+        << text << " instead of " << printed(value, 17);
 }
 
 TEST(CatalogueEllipsoids, AxesAreThoseOfEpsg) {
     for (const auto& record : built().sources.ellipsoids) {
         const auto code = code_after("EPSG:", record.source);
         if (!code) continue;
-        const auto what = record.place + " " + record.source;
+        SCOPED_TRACE(record.place + " " + record.source);
         const auto object = epsg(*code, PJ_CATEGORY_ELLIPSOID);
         double a = 0, b = 0, rf = 0;
-        ASSERT_TRUE(proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, object.get(), &a, &b, nullptr, &rf))
-            << what;
-        expect_number(record.text("A"), a, what);
-        if (!record.text("B").empty()) expect_number(record.text("B"), b, what);
-        if (!record.text("RF").empty()) expect_number(record.text("RF"), rf, what);
+        ASSERT_TRUE(proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, object.get(), &a, &b, nullptr, &rf));
+        expect_number(record.text("A"), a);
+        if (!record.text("B").empty()) expect_number(record.text("B"), b);
+        if (!record.text("RF").empty()) expect_number(record.text("RF"), rf);
     }
 }
 
 TEST(CatalogueEllipsoids, HoldEveryCodeOfProjAsPublished) {
-    std::set<std::string> codes;
-    for (const auto* published = proj_list_ellps(); published->id; ++published) {
-        codes.insert(published->id);
+    std::size_t published_ones = 0, coded_rows = 0;
+    for (const auto* published = proj_list_ellps(); published->id; ++published, ++published_ones) {
+        SCOPED_TRACE(published->id);
         const auto* row = find_ellps_by_code(built().ellps, published->id);
-        ASSERT_TRUE(row) << published->id;
-        const auto published_number = [](const char* text) {
-            return ox::scan_double(std::string(text).substr(text[1] == 'f' ? 3 : 2));
+        ASSERT_TRUE(row);
+        const auto number = [](const std::string& text) {
+            return ox::scan_double(text.substr(text.find('=') + 1));
         };
-        EXPECT_EQ(row->a, published_number(published->major)) << published->id;
-        EXPECT_EQ(published->ell[0] == 'b' ? row->b : row->rf, published_number(published->ell))
-            << published->id;
+        EXPECT_EQ(row->a, number(published->major));
+        EXPECT_EQ(published->ell[0] == 'b' ? row->b : row->rf, number(published->ell));
     }
-    for (std::size_t i = 0; i < built().ellps.size(); ++i) {
-        const auto& code = built().ellps[i].code;
-        EXPECT_TRUE(code.empty() || codes.contains(code)) << code << " is no ellipsoid of PROJ";
-    }
+    for (std::size_t i = 0; i < built().ellps.size(); ++i) coded_rows += !built().ellps[i].code.empty();
+    EXPECT_EQ(coded_rows, published_ones) << "some code is no ellipsoid of PROJ, or stands twice";
 }
 
 /// The seven Position Vector numbers of an operation, in the units of towgs84; `exact` says which of them
@@ -97,137 +89,111 @@ published_shift shift_of(const PJ* operation) {
     return shift;
 }
 
-TEST(CatalogueDatums, NumbersAreThoseOfTheEpsgOperation) {
-    for (std::size_t row = 0; row < built().datums.size(); ++row) {
-        const auto& datum = built().datums[row];
-        const auto& source = built().sources.datums[row].source;
-        const auto code = code_after("EPSG:", source);
-        if (!code) continue;
+TEST(CatalogueDatums, NumbersEllipsoidAndSystemAreThoseOfTheEpsgOperation) {
+    for_each_datum([](const auto& datum, const auto& made_of) {
+        const auto code = code_after("EPSG:", made_of.source);
+        if (!code) return;
+        SCOPED_TRACE(datum.name + ", " + made_of.source);
         const auto operation = epsg(*code, PJ_CATEGORY_COORDINATE_OPERATION);
-        ASSERT_TRUE(operation) << source;
+        ASSERT_TRUE(operation);
         const auto published = shift_of(operation.get());
         for (std::size_t i = 0; i < 7; ++i) {
             const double number = datum.towgs84()[i];
             EXPECT_TRUE(number == published.values[i] ||
                         (!published.exact[i] && printed(number) == printed(published.values[i])))
-                << datum.name << ", " << source << ", number " << i << ": " << printed(number, 17)
-                << " instead of " << printed(published.values[i], 17);
+                << "number " << i << ": " << printed(number, 17) << " instead of "
+                << printed(published.values[i], 17);
         }
-    }
-}
 
-TEST(CatalogueDatums, EllipsoidAndSystemAreThoseOfTheEpsgOperation) {
-    for (std::size_t row = 0; row < built().datums.size(); ++row) {
-        const auto& datum = built().datums[row];
-        const auto code = code_after("EPSG:", built().sources.datums[row].source);
-        if (!code) continue;
-        const auto operation = epsg(*code, PJ_CATEGORY_COORDINATE_OPERATION);
         const proj_object crs(proj_get_source_crs(PJ_DEFAULT_CTX, operation.get()));
         const proj_object ellipsoid(proj_get_ellipsoid(PJ_DEFAULT_CTX, crs.get()));
         double a = 0, b = 0;
         ASSERT_TRUE(proj_ellipsoid_get_parameters(PJ_DEFAULT_CTX, ellipsoid.get(), &a, &b, nullptr, nullptr));
         const auto& ellps = ellps_of(datum);
-        EXPECT_NEAR(ellps.a, a, millimetre) << datum.name;
-        EXPECT_NEAR(ellps.has_b ? ellps.b : ellps.a * (1 - 1 / ellps.rf), b, millimetre) << datum.name;
+        EXPECT_NEAR(ellps.a, a, millimetre);
+        EXPECT_NEAR(ellps.has_b ? ellps.b : ellps.a * (1 - 1 / ellps.rf), b, millimetre);
 
         const auto datum_name = [](const PJ* of) {
             return std::string(
                 proj_get_name(proj_object(proj_crs_get_datum_forced(PJ_DEFAULT_CTX, of)).get()));
         };
-        const auto& systems = built().sources.datums[row].systems;
-        ASSERT_FALSE(systems.empty()) << datum.name;
-        const auto system = epsg(systems.front().substr(5), PJ_CATEGORY_CRS);
-        EXPECT_EQ(datum_name(system.get()), datum_name(crs.get())) << datum.name;
-    }
+        ASSERT_FALSE(made_of.systems.empty());
+        const auto system = epsg(made_of.systems.front().substr(5), PJ_CATEGORY_CRS);
+        EXPECT_EQ(datum_name(system.get()), datum_name(crs.get()));
+    });
 }
 
 TEST(CatalogueDatums, OfProjShiftAsTheirNamesDo) {
-    for (std::size_t row = 0; row < built().datums.size(); ++row) {
-        const auto& datum = built().datums[row];
-        const auto& source = built().sources.datums[row].source;
-        const auto name = code_after("PROJ +datum=", source);
-        if (!name) continue;
+    for_each_datum([](const auto& datum, const auto& made_of) {
+        const auto name = code_after("PROJ +datum=", made_of.source);
+        if (!name) return;
         EXPECT_EQ(datum.code, *name);
-        std::array<PJ_COORD, 2> shifted;
         auto numbers = datum;
         numbers.code.clear();
-        ox::Tox_pj_proj geographic;
-        geographic.proj = "longlat";
-        for (std::size_t i = 0; i < 2; ++i) {
-            const auto text = compose(geographic, {}, i == 0 ? &datum : &numbers, &ellps_of(datum));
+        const auto shifted = [&](const ox::Tox_pj_datum& by) {
+            const auto text = compose(geographic(), {}, &by, &ellps_of(datum)) + " +type=crs";
             const proj_object to_wgs84(proj_create_crs_to_crs(
-                PJ_DEFAULT_CTX, (text + " +type=crs").c_str(),
-                "+proj=longlat +datum=WGS84 +lon_wrap=45 +no_defs +type=crs", nullptr));
-            ASSERT_TRUE(to_wgs84) << text;
-            shifted[i] = proj_trans(to_wgs84.get(), PJ_FWD, proj_coord(10, 52, 0, 0));
-        }
-        EXPECT_NEAR(shifted[0].xy.x, shifted[1].xy.x, 1e-9) << datum.name;
-        EXPECT_NEAR(shifted[0].xy.y, shifted[1].xy.y, 1e-9) << datum.name;
-    }
+                PJ_DEFAULT_CTX, text.c_str(), "+proj=longlat +datum=WGS84 +lon_wrap=45 +no_defs +type=crs",
+                nullptr));
+            EXPECT_TRUE(to_wgs84) << text;
+            return proj_trans(to_wgs84.get(), PJ_FWD, proj_coord(10, 52, 0, 0)).xy;
+        };
+        EXPECT_NEAR(shifted(datum).x, shifted(numbers).x, 1e-9) << datum.name;
+        EXPECT_NEAR(shifted(datum).y, shifted(numbers).y, 1e-9) << datum.name;
+    });
 }
 
 /// Each on its own datum: a shift plays no part.
 void expect_same_projection(const PJ* expected_crs, const std::string& text, double longitude,
-                            double latitude, const std::string& what) {
+                            double latitude) {
+    SCOPED_TRACE(text);
     const auto expected = project(expected_crs, longitude, latitude);
     const auto actual = project(crs_of_text(text).get(), longitude, latitude);
-    ASSERT_TRUE(expected && actual) << what << ": " << text;
-    EXPECT_NEAR(actual->x, expected->x, millimetre) << what << ": " << text;
-    EXPECT_NEAR(actual->y, expected->y, millimetre) << what << ": " << text;
+    ASSERT_TRUE(expected && actual);
+    EXPECT_NEAR(actual->x, expected->x, millimetre);
+    EXPECT_NEAR(actual->y, expected->y, millimetre);
 }
 
-TEST(CatalogueZones, ProjectAsTheirEpsgSystems) {
-    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
-        const auto& record = built().zonal[row];
-        const auto& source = built().sources.zonal[row];
-        const auto code = code_after("EPSG:", source.source);
-        if (!code) continue;
+TEST(CatalogueZones, ProjectAsTheirEpsgSystemsAndHaveTheirDatum) {
+    for_each_zone([](const auto& record, const auto& source, const auto& datum) {
+        const auto code = code_after("EPSG:", source);
+        if (!code) return;
+        SCOPED_TRACE(source + ", zone " + record.zone_n.text);
         const auto crs = epsg(*code, PJ_CATEGORY_CRS);
-        ASSERT_TRUE(crs) << source.source;
-        const auto* datum = find_datum_by_name(built().datums, record.datum.text);
-        ASSERT_TRUE(datum) << record.name;
+        ASSERT_TRUE(crs);
         const double meridian = named_meridian(record);
         const auto middle = project(crs.get(), meridian, 0);
-        ASSERT_TRUE(middle) << source.source;
-        EXPECT_NEAR(middle->x, record.x_0.used ? record.x_0.value : 500000, millimetre)
-            << source.source << " is not zone " << record.zone_n.text;
-        expect_same_projection(crs.get(), compose(record, {}, nullptr, &ellps_of(*datum)), meridian + 2,
-                               record.south.used ? -33 : 55, source.source);
-    }
-}
+        ASSERT_TRUE(middle);
+        EXPECT_NEAR(middle->x, record.x_0.used ? record.x_0.value : 500000, millimetre) << "another zone";
+        expect_same_projection(crs.get(), compose(record, {}, nullptr, &ellps_of(datum)), meridian + 2,
+                               record.south.used ? -33 : 55);
 
-TEST(CatalogueZones, DatumBelongsToTheEpsgSystem) {
-    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
-        const auto* datum = find_datum_by_name(built().datums, built().zonal[row].datum.text);
-        const auto system = code_after("EPSG:", built().sources.zonal[row].source);
-        const auto shift = code_after("EPSG:", built().sources.datums[datum->id - 1].source);
-        if (!system || !shift) continue;
+        const auto shift = code_after("EPSG:", built().sources.datums[datum.id - 1].source);
+        if (!shift) return;
         const auto operation = epsg(*shift, PJ_CATEGORY_COORDINATE_OPERATION);
         const proj_object from(proj_get_source_crs(PJ_DEFAULT_CTX, operation.get()));
-        const proj_object base(
-            proj_crs_get_geodetic_crs(PJ_DEFAULT_CTX, epsg(*system, PJ_CATEGORY_CRS).get()));
-        EXPECT_STREQ(proj_get_name(from.get()), proj_get_name(base.get())) << "EPSG:" << *system;
-    }
+        const proj_object base(proj_crs_get_geodetic_crs(PJ_DEFAULT_CTX, crs.get()));
+        EXPECT_STREQ(proj_get_name(from.get()), proj_get_name(base.get()));
+    });
 }
 
 TEST(CatalogueUsualProjections, MeanWhatTheirSourceSays) {
-    for (std::size_t row = 0; row < built().usual.size(); ++row) {
-        const auto& record = built().usual[row];
-        const auto& source = built().sources.usual[row].source;
-        const auto text =
-            compose(record, plausible_inputs(record), nullptr, find_ellps_by_code(built().ellps, "GRS80"));
-        if (const auto code = code_after("EPSG method ", source)) {
-            const auto crs = crs_of_text(text);
+    for_each_usual([](const auto& record, const auto& made_of) {
+        const std::string& source = made_of.source;
+        SCOPED_TRACE(source);
+        if (const auto expected = code_after("EPSG method ", source)) {
+            const auto crs = crs_of_text(compose(record, plausible_inputs(record), nullptr,
+                                                 find_ellps_by_code(built().ellps, "GRS80")));
             const proj_object conversion(proj_crs_get_coordoperation(PJ_DEFAULT_CTX, crs.get()));
             const char* method = "";
             proj_coordoperation_get_method_info(PJ_DEFAULT_CTX, conversion.get(), nullptr, nullptr, &method);
-            EXPECT_EQ(method, *code) << text;
+            EXPECT_EQ(method, *expected) << record.name;
         } else if (const auto system = code_after("EPSG:", source)) {
             expect_same_projection(epsg(*system, PJ_CATEGORY_CRS).get(),
                                    compose(record, {}, nullptr, &ellps_of_system(source)),
-                                   record.lon_0.value + 1, record.lat_0.value + 1, source);
+                                   record.lon_0.value + 1, record.lat_0.value + 1);
         }
-    }
+    });
 }
 
 }  // namespace

@@ -21,9 +21,11 @@ const ox::dialog::projection_model& imported(const std::string& identifier) {
     return model;
 }
 
+using names_by_system = std::map<std::string, std::set<std::string>>;
+
 /// Names of the datum rows by the geographic systems on them.
-std::map<std::string, std::set<std::string>> names_of_systems() {
-    std::map<std::string, std::set<std::string>> names;
+names_by_system names_of_systems() {
+    names_by_system names;
     for (const auto& record : built().sources.datums)
         for (const auto& system : record.systems) names[system].insert(record.text("DATUM_NAME"));
     return names;
@@ -80,7 +82,7 @@ const std::map<std::string, std::string> no_zones{
 };
 
 TEST(CatalogueImports, OfZonesAreZones) {
-    std::map<std::string, std::set<std::string>> families;
+    names_by_system families;
     for (const auto& record : built().sources.zonal)
         if (record.source.starts_with("EPSG:"))
             families[record.source].insert(record.text("PRJ_NAME") + ' ' + record.text("ZONE_N"));

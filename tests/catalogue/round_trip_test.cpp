@@ -46,16 +46,13 @@ area area_of(const ox::Tox_pj_proj& record, const std::string& source, double de
     }
     const auto inputs = plausible_inputs(record);
     const double longitude = record.lonc.used ? inputs.lonc.value() : inputs.lon_0.value();
-    double latitude = 0;
-    if (record.lat_0.used) {
-        latitude = record.lat_0.has_value ? record.lat_0.value : inputs.lat_0.value();
-    } else if (record.lat_1.used) {
-        latitude = inputs.lat_1.value();
-    } else if (record.proj == "ups") {
-        latitude = record.south.used ? -90 : 90;
-    } else {
+    if (!record.lat_0.used && !record.lat_1.used && record.proj != "ups")
         return {longitude - 175, -85, longitude + 175, 85};
-    }
+    const double latitude = record.lat_0.has_value ? record.lat_0.value
+                            : record.lat_0.used    ? inputs.lat_0.value()
+                            : record.lat_1.used    ? inputs.lat_1.value()
+                            : record.south.used    ? -90
+                                                   : 90;
     return {longitude - degrees, std::max(latitude - degrees, -89.0), longitude + degrees,
             std::min(latitude + degrees, 89.0)};
 }
@@ -72,29 +69,23 @@ constexpr rough_projection rough_ones[] = {
 };
 
 TEST(CatalogueRoundTrips, OfUsualProjectionsEndWhereTheyBegan) {
-    for (std::size_t row = 0; row < built().usual.size(); ++row) {
-        const auto& record = built().usual[row];
+    for_each_usual([](const auto& record, const auto& made_of) {
         const auto* rough = std::ranges::find(rough_ones, record.name, &rough_projection::name);
         const auto& [name, degrees, metres] =
             rough == std::end(rough_ones) ? rough_projection{record.name, 30, centimetre} : *rough;
-        const auto& source = built().sources.usual[row].source;
+        const std::string& source = made_of.source;
         const auto text = compose(record, plausible_inputs(record), nullptr, &ellps_of_system(source));
-        EXPECT_LE(worst_return(text, area_of(record, source, degrees)), metres)
-            << record.name << ": " << text;
-    }
+        EXPECT_LE(worst_return(text, area_of(record, source, degrees)), metres) << text;
+    });
 }
 
 TEST(CatalogueRoundTrips, OfZonesEndWhereTheyBegan) {
-    for (std::size_t row = 0; row < built().zonal.size(); ++row) {
-        const auto& record = built().zonal[row];
-        const auto* datum = find_datum_by_name(built().datums, record.datum.text);
-        ASSERT_TRUE(datum) << record.name;
-        const double meridian = named_meridian(record);
-        const area zone = record.south.used ? area{meridian - 3, -80, meridian + 3, 0}
-                                            : area{meridian - 3, 0, meridian + 3, 84};
-        EXPECT_LE(worst_return(compose(record, {}, nullptr, &ellps_of(*datum)), zone), centimetre)
+    for_each_zone([](const auto& record, const auto&, const auto& datum) {
+        const double meridian = named_meridian(record), pole = record.south.used ? -80 : 84;
+        const area zone{meridian - 3, std::min(pole, 0.0), meridian + 3, std::max(pole, 0.0)};
+        EXPECT_LE(worst_return(compose(record, {}, nullptr, &ellps_of(datum)), zone), centimetre)
             << record.name << ' ' << record.zone_n.text;
-    }
+    });
 }
 
 }  // namespace

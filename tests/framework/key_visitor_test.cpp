@@ -35,10 +35,13 @@ struct key_case {
     bytes expected;
 };
 
-class KeyVisitor : public testing::TestWithParam<key_case> {};
-
-TEST_P(KeyVisitor, Converts) {
-    const key_case& c = GetParam();
+// Two rows of one pixel; the key is the first pixel of the last row.
+TEST_CASES(KeyVisitor, Converts, key_case,
+           {"ThreeChannelsTopDown", 3, 3, {1, 2, 3, 9, 8, 7}, 0, {1, 2, 3, 255, 0, 0, 0, 0}},
+           {"ThreeChannelsBottomUp", -3, 3, {9, 8, 7, 1, 2, 3}, 3, {1, 2, 3, 255, 0, 0, 0, 0}},
+           {"AllOfTheKeyColour", 3, 3, {5, 5, 5, 5, 5, 5}, 0, {0, 0, 0, 0, 0, 0, 0, 0}},
+           {"Grey", 1, 1, {7, 9}, 0, {7, 7, 7, 255, 0, 0, 0, 0}},
+           {"FourChannelsPass", 4, 4, {1, 2, 3, 4, 1, 2, 3, 4}, 0, {1, 2, 3, 4, 1, 2, 3, 4}}) {
     image_sink sink;
     detail::key_visitor keyed(make_pointer<thrice_interleaved_bytes_visitor_impl>(sink));
     keyed.visit(2, c.row_stride, 1, c.channels, c.channels, 1, c.memory.data() + c.first_row);
@@ -46,17 +49,6 @@ TEST_P(KeyVisitor, Converts) {
     EXPECT_EQ(sink.channels, 4);
     EXPECT_EQ(sink.pixels, c.expected);
 }
-
-// Two rows of one pixel; the key is the first pixel of the last row.
-INSTANTIATE_TEST_SUITE_P(
-    Images, KeyVisitor,
-    testing::Values(
-        key_case{"ThreeChannelsTopDown", 3, 3, {1, 2, 3, 9, 8, 7}, 0, {1, 2, 3, 255, 0, 0, 0, 0}},
-        key_case{"ThreeChannelsBottomUp", -3, 3, {9, 8, 7, 1, 2, 3}, 3, {1, 2, 3, 255, 0, 0, 0, 0}},
-        key_case{"AllOfTheKeyColour", 3, 3, {5, 5, 5, 5, 5, 5}, 0, {0, 0, 0, 0, 0, 0, 0, 0}},
-        key_case{"Grey", 1, 1, {7, 9}, 0, {7, 7, 7, 255, 0, 0, 0, 0}},
-        key_case{"FourChannelsPass", 4, 4, {1, 2, 3, 4, 1, 2, 3, 4}, 0, {1, 2, 3, 4, 1, 2, 3, 4}}),
-    case_name);
 
 TEST(KeyVisitorOutside, AnImageWithoutDataIsNone) {
     image_sink sink;

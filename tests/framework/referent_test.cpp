@@ -172,10 +172,16 @@ struct meanwhile_case {
     const char* told;
 };
 
-class ReferentMeanwhile : public Referents, public testing::WithParamInterface<meanwhile_case> {};
-
-TEST_P(ReferentMeanwhile, EndsOnceAndTellsThoseWhoAreLeft) {
-    const meanwhile_case& c = GetParam();
+TEST_CASES_F(
+    Referents, ReferentMeanwhile, EndsOnceAndTellsThoseWhoAreLeft, meanwhile_case,
+    {"SelfWhenTold", "abc", 'b', "told", "-b", "abc"}, {"NextWhenTold", "abc", 'a', "told", "-b", "ac"},
+    {"LastWhenTold", "abc", 'b', "told", "-c", "ab"}, {"PreviousWhenTold", "abc", 'b', "told", "-a", "abc"},
+    {"AllWhenTold", "abc", 'a', "told", "-a-b-c", "a"}, {"StrangerWhenTold", "abc", 'b', "told", "-y", "abc"},
+    {"OneOfTwoWhenTold", "abbc", 'b', "told", "-b", "abbc"},
+    {"AddedWhenTold", "ab", 'a', "told", "+d+E-E", "ab"}, {"SelfWhenAsked", "abc", 'b', "asked", "-b", "ac"},
+    {"NextWhenAsked", "abc", 'a', "asked", "-b", "ac"},
+    {"SelfWhenAskedThoughOneHolds", "abC", 'a', "asked", "-a", "bC"},
+    {"SelfWhenAskedAndSaysItHolds", "Ab", 'A', "asked", "-A", "b"}) {
     const custom_pointer referent = (new service)->referent_pointer();
     std::string told;
     std::map<char, scripted> referrers;
@@ -202,22 +208,6 @@ TEST_P(ReferentMeanwhile, EndsOnceAndTellsThoseWhoAreLeft) {
     EXPECT_EQ(told, c.told);
     EXPECT_EQ(services_alive, 0);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Removals, ReferentMeanwhile,
-    testing::Values(meanwhile_case{"SelfWhenTold", "abc", 'b', "told", "-b", "abc"},
-                    meanwhile_case{"NextWhenTold", "abc", 'a', "told", "-b", "ac"},
-                    meanwhile_case{"LastWhenTold", "abc", 'b', "told", "-c", "ab"},
-                    meanwhile_case{"PreviousWhenTold", "abc", 'b', "told", "-a", "abc"},
-                    meanwhile_case{"AllWhenTold", "abc", 'a', "told", "-a-b-c", "a"},
-                    meanwhile_case{"StrangerWhenTold", "abc", 'b', "told", "-y", "abc"},
-                    meanwhile_case{"OneOfTwoWhenTold", "abbc", 'b', "told", "-b", "abbc"},
-                    meanwhile_case{"AddedWhenTold", "ab", 'a', "told", "+d+E-E", "ab"},
-                    meanwhile_case{"SelfWhenAsked", "abc", 'b', "asked", "-b", "ac"},
-                    meanwhile_case{"NextWhenAsked", "abc", 'a', "asked", "-b", "ac"},
-                    meanwhile_case{"SelfWhenAskedThoughOneHolds", "abC", 'a', "asked", "-a", "bC"},
-                    meanwhile_case{"SelfWhenAskedAndSaysItHolds", "Ab", 'A', "asked", "-A", "b"}),
-    case_name);
 
 }  // namespace
 }  // namespace ox

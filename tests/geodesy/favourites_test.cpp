@@ -1,7 +1,5 @@
 #include "geodesy/favourites.h"
 
-#include <sys/stat.h>
-
 #include "base/files.h"
 #include "texts.h"
 
@@ -13,17 +11,17 @@ protected:
     Favourites() { setenv("OXHOST_CONFIG", (folder_ / "new/config").c_str(), 1); }
     ~Favourites() override { unsetenv("OXHOST_CONFIG"); }
 
-    static ino_t file_identity() {
-        struct stat about {};
-        return stat(favourites_path().c_str(), &about) == 0 ? about.st_ino : 0;
+    static favourite_list loaded() {
+        favourite_list list;
+        list.load();
+        return list;
     }
 
-    texts::scratch_folder folder_;
+    scratch_folder folder_;
 };
 
 TEST_F(Favourites, AreKept) {
-    favourite_list list;
-    list.load();
+    favourite_list list = loaded();
     EXPECT_EQ(list.count(), 0);
     list.add({"Зона 7 \"GK\"", texts::zone7});
     list.add({"UTM", texts::utm37});
@@ -36,45 +34,43 @@ TEST_F(Favourites, AreKept) {
         EXPECT_EQ(list.at(outside), nullptr);
     }
     list.save();
-    favourite_list other;
-    other.load();
+    const favourite_list other = loaded();
     ASSERT_EQ(other.count(), 2);
     EXPECT_EQ(*other.at(0), (favourite{"Зона 7 \"GK\"", texts::zone7}));
     EXPECT_EQ(*other.at(1), (favourite{"UTM 37", texts::utm37}));
 }
 
 TEST_F(Favourites, UnchangedWritesNothing) {
-    favourite_list list;
-    list.load();
+    favourite_list list = loaded();
     list.save();
     EXPECT_FALSE(std::filesystem::exists(favourites_path()));
     list.add({"one", texts::utm37});
     list.save();
-    const auto before = file_identity();
+    const std::string same_file = folder_ / "same";  // a file that is written anew replaces it
+    std::filesystem::create_hard_link(favourites_path(), same_file);
     list.save();
-    favourite_list other;
-    other.load();
+    favourite_list other = loaded();
     other.add({"two", ""});
     other.remove(1);
     other.save();
-    EXPECT_EQ(file_identity(), before);
+    EXPECT_TRUE(std::filesystem::equivalent(favourites_path(), same_file));
 }
 
 TEST_F(Favourites, DamagedFilesAreKeptAside) {
     std::filesystem::create_directories(folder_ / "new/config");
     int number = 0;
     for (const char* content : {"", "{\"favourites\": [", "[]", "{\"favourites\": [{\"caption\": 1}]}"}) {
-        texts::write(favourites_path(), content);
+        write_bytes(favourites_path(), content);
         favourite_list list;
         const std::string said = list.load().value_or("nothing");
         const std::string aside = favourites_path() + ".damaged-" + std::to_string(++number);
         EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 0) << said;
         EXPECT_NE(said.find(aside), std::string::npos) << said;
-        EXPECT_EQ(texts::read(aside), content);
+        EXPECT_EQ(bytes_of(aside), content);
         EXPECT_EQ(list.count(), 0);
         list.add({"new", texts::utm37});
         list.save();
-        EXPECT_EQ(texts::read(aside), content);
+        EXPECT_EQ(bytes_of(aside), content);
     }
 }
 

@@ -14,10 +14,17 @@ struct import_case {
     bool north_first;
 };
 
-class Import : public testing::TestWithParam<import_case> {};
-
-TEST_P(Import, KeepsTheDatumThatProjTakes) {
-    const auto& [name, code, at, north_first] = GetParam();
+TEST_CASES(Import, KeepsTheDatumThatProjTakes, import_case,
+           {"GaussKruger", "EPSG:28407", {7500000, 6100000}, true},
+           {"Pulkovo1942", "EPSG:4284", {39, 55}, true},
+           {"Pulkovo1995", "EPSG:20007", {7500000, 6100000}, true},
+           {"Utm", "EPSG:32637", {500000, 6100000}, false},
+           {"UtmSouth", "EPSG:32740", {500000, 6100000}, false},
+           {"Lambert93", "EPSG:2154", {700000, 6600000}, false},
+           {"BritishGrid", "EPSG:27700", {400000, 300000}, false},
+           {"WorldMercator", "EPSG:3395", {4341460, 7300000}, false},
+           {"WebMercator", "EPSG:3857", {4341460, 7300000}, false}, {"Wgs84", "EPSG:4326", {39, 55}, true}) {
+    const auto& [name, code, at, north_first] = c;
     // PROJ's own way from the system by its code to WGS 84, without the texts of this host
     const pj_ptr way(proj_create_crs_to_crs(proj_context(), code.c_str(), "EPSG:4326", nullptr));
     const PJ_COORD own = proj_trans(
@@ -30,19 +37,6 @@ TEST_P(Import, KeepsTheDatumThatProjTakes) {
     EXPECT_LT(ground_distance(imported->front(), {own.xy.y, own.xy.x}), 0.001) << *text;
     EXPECT_EQ(epsg_code(*text), code);
 }
-
-INSTANTIATE_TEST_SUITE_P(Systems, Import,
-                         testing::Values(import_case{"GaussKruger", "EPSG:28407", {7500000, 6100000}, true},
-                                         import_case{"Pulkovo1942", "EPSG:4284", {39, 55}, true},
-                                         import_case{"Pulkovo1995", "EPSG:20007", {7500000, 6100000}, true},
-                                         import_case{"Utm", "EPSG:32637", {500000, 6100000}, false},
-                                         import_case{"UtmSouth", "EPSG:32740", {500000, 6100000}, false},
-                                         import_case{"Lambert93", "EPSG:2154", {700000, 6600000}, false},
-                                         import_case{"BritishGrid", "EPSG:27700", {400000, 300000}, false},
-                                         import_case{"WorldMercator", "EPSG:3395", {4341460, 7300000}, false},
-                                         import_case{"WebMercator", "EPSG:3857", {4341460, 7300000}, false},
-                                         import_case{"Wgs84", "EPSG:4326", {39, 55}, true}),
-                         case_name);
 
 TEST(Import, DeliversNothingForWhatIsNoPlaneSystem) {
     for (const char* identifier : {"", " ", "EPSG:999999", "4326", "4326a", "hello", "WGS", "EPSG:4978",

@@ -40,7 +40,7 @@ TEST(Module, DeliversTextsInTheUsersLanguage) {
 }
 
 TEST(Module, FilesTellTheirErrorsToTheHost) {
-    const texts::scratch_folder folder;
+    const scratch_folder folder;
     const std::wstring good = to_wide(folder / "зона.prj"), none = to_wide(folder / "none/x.pj4");
     ox_pj4_export_esri_prj(utm, good.c_str());
     EXPECT_EQ(journal::instance().take_file_failure(), std::nullopt);

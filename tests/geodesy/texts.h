@@ -1,15 +1,10 @@
 #pragma once
-/// Texts and helpers that the geodesy tests share.
+/// Projections that the geodesy tests share.
 
-#include <stdlib.h>
-
-#include <cctype>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "testing/case_name.h"
+#include "testing/scratch_folder.h"
 
 namespace texts {
 
@@ -23,27 +18,5 @@ inline const std::string zone7 =
 inline const std::string zone7_base =
     "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +no_defs";
 inline const std::string refused = "+proj=utm +zone=99 +datum=WGS84 +no_defs";
-
-/// A folder of its own for each test; gone afterwards.
-class scratch_folder {
-public:
-    scratch_folder() {
-        std::string name = (std::filesystem::temp_directory_path() / "geodesy.XXXXXX").string();
-        path_ = mkdtemp(name.data());
-    }
-    ~scratch_folder() { std::filesystem::remove_all(path_); }
-    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-    std::string path() const { return path_.string(); }
-
-private:
-    std::filesystem::path path_;
-};
-
-inline void write(const std::string& path, const std::string& content) { std::ofstream(path) << content; }
-
-inline std::string read(const std::string& path) {
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 }  // namespace texts

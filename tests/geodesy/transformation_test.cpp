@@ -4,41 +4,43 @@
 #include <cmath>
 #include <numbers>
 #include <stdexcept>
+#include <tuple>
 
 #include "texts.h"
 
 namespace oxhost {
 namespace {
 
+void expect_near(const point& found, const point& expected, double tolerance) {
+    EXPECT_NEAR(found.x, expected.x, tolerance);
+    EXPECT_NEAR(found.y, expected.y, tolerance);
+}
+
+/// Where a point of one system lies in another.
+point between(const std::string& from, const std::string& to, const point& at) {
+    polyline line{at};
+    EXPECT_FALSE(transformation::between(from, to)->apply(line)) << from << " to " << to;
+    return line[0];
+}
+
 /// Points published with the formulas of the map projections (IOGP Guidance Note 7-2), geographic ones on
 /// the ellipsoid of the projection, so that nothing but the projection is at work.
 TEST(Transformation, MeetsPublishedPointsBothWays) {
-    const struct {
-        std::string projection;
-        point geographic, projected;
-    } cases[] = {
+    const std::tuple<std::string, point, point> cases[] = {
         {"+proj=tmerc +lat_0=49 +lon_0=-2 +k=0.9996012717 +x_0=400000 +y_0=-100000 +ellps=airy",
-         {0.5, 50.5},
-         {577274.99, 69740.50}},
+         point{0.5, 50.5}, point{577274.99, 69740.50}},
         {"+proj=lcc +lat_1=28.3833333333333 +lat_2=30.2833333333333 +lat_0=27.8333333333333 +lon_0=-99 "
          "+x_0=609601.219202438 +y_0=0 +ellps=clrk66 +units=us-ft",
-         {-96, 28.5},
-         {2963503.91, 254759.80}},
-        {"+proj=merc +lat_ts=42 +lon_0=51 +ellps=krass", {53, 53}, {165704.29, 5171848.07}},
+         point{-96, 28.5}, point{2963503.91, 254759.80}},
+        {"+proj=merc +lat_ts=42 +lon_0=51 +ellps=krass", point{53, 53}, point{165704.29, 5171848.07}},
         {"+proj=sterea +lat_0=52.1561605555556 +lon_0=5.38763888888889 +k=0.9999079 +x_0=155000 +y_0=463000 "
          "+ellps=bessel",
-         {6, 53},
-         {196105.283, 557057.739}}};
+         point{6, 53}, point{196105.283, 557057.739}}};
     for (const auto& [projection, geographic, projected] : cases) {
+        SCOPED_TRACE(projection);
         const std::string base = "+proj=longlat +ellps=" + proj4_text(projection).value("ellps").value();
-        polyline line{geographic};
-        ASSERT_FALSE(transformation::between(base, projection)->apply(line));
-        EXPECT_NEAR(line[0].x, projected.x, 0.01) << projection;
-        EXPECT_NEAR(line[0].y, projected.y, 0.01) << projection;
-        line = {projected};
-        ASSERT_FALSE(transformation::between(projection, base)->apply(line));
-        EXPECT_NEAR(line[0].x, geographic.x, 2e-7) << projection;
-        EXPECT_NEAR(line[0].y, geographic.y, 2e-7) << projection;
+        expect_near(between(base, projection, geographic), projected, 0.01);
+        expect_near(between(projection, base, projected), geographic, 2e-7);
     }
 }
 
@@ -46,6 +48,7 @@ TEST(Transformation, MeetsPublishedPointsBothWays) {
 namespace closed_form {
 
 using vector = std::array<double, 3>;
+using parameters = std::array<double, 7>;
 constexpr double degree = std::numbers::pi / 180;
 
 vector cartesian(point at, double a, double rf) {
@@ -56,7 +59,7 @@ vector cartesian(point at, double a, double rf) {
             n * (1 - e2) * std::sin(phi)};
 }
 
-vector position_vector(const vector& v, const std::array<double, 7>& t) {
+vector position_vector(const vector& v, const parameters& t) {
     const double second = degree / 3600;
     const double rx = t[3] * second, ry = t[4] * second, rz = t[5] * second, m = 1 + t[6] * 1e-6;
     return {t[0] + m * (v[0] - rz * v[1] + ry * v[2]), t[1] + m * (rz * v[0] + v[1] - rx * v[2]),
@@ -80,69 +83,49 @@ struct shift_case {
     const char* name;
     std::string source;
     double a, rf;
-    std::array<double, 7> shift;
+    closed_form::parameters shift;
     point at;
 };
+constexpr closed_form::parameters pulkovo{23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22};
 
-class Shift : public testing::TestWithParam<shift_case> {};
-
-TEST_P(Shift, IsTheClosedFormHelmert) {
-    const auto& [name, source, a, rf, shift, at] = GetParam();
+TEST_CASES(Shift, IsTheClosedFormHelmert, shift_case,
+           {"Pulkovo", texts::zone7_base + " +lon_wrap=45", 6378245, 298.3, pulkovo, {39, 55}},
+           {"ThreeParameters",
+            "+proj=longlat +ellps=intl +towgs84=-84.87,-96.49,-116.95",
+            6378388,
+            297,
+            closed_form::parameters{-84.87, -96.49, -116.95},
+            {2.1309658, 53.8101564}},
+           // PROJ would look for a grid, of which some of its packages bring a copy
+           {"PotsdamByName",
+            "+proj=longlat +datum=potsdam",
+            6377397.155,
+            299.1528128,
+            closed_form::parameters{598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7},
+            {9, 50}},
+           {"OsgbByName",
+            "+proj=longlat +datum=OSGB36",
+            6377563.396,
+            299.3249646,
+            closed_form::parameters{446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
+            {-1.5, 53}}) {
+    const auto& [name, source, a, rf, shift, at] = c;
     const point expected = closed_form::geographic(
         closed_form::position_vector(closed_form::cartesian(at, a, rf), shift), 6378137, 298.257223563);
-    polyline line{at};
-    ASSERT_FALSE(transformation::between(source, texts::wgs84)->apply(line));
-    EXPECT_NEAR(line[0].x, expected.x, 1e-11);
-    EXPECT_NEAR(line[0].y, expected.y, 1e-11);
+    const point found = between(source, texts::wgs84, at);
+    expect_near(found, expected, 1e-11);
     // and back, to the millimetre that the omitted height is worth
-    ASSERT_FALSE(transformation::between(texts::wgs84, source)->apply(line));
-    EXPECT_NEAR(line[0].x, at.x, 2e-8);
-    EXPECT_NEAR(line[0].y, at.y, 2e-8);
+    expect_near(between(texts::wgs84, source, found), at, 2e-8);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Datums, Shift,
-    testing::Values(
-        shift_case{"Pulkovo",
-                   "+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22 +lon_wrap=45",
-                   6378245,
-                   298.3,
-                   {23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22},
-                   {39, 55}},
-        shift_case{"ThreeParameters",
-                   "+proj=longlat +ellps=intl +towgs84=-84.87,-96.49,-116.95",
-                   6378388,
-                   297,
-                   {-84.87, -96.49, -116.95, 0, 0, 0, 0},
-                   {2.1309658, 53.8101564}},
-        // PROJ would look for a grid, of which some of its packages bring a copy
-        shift_case{"PotsdamByName",
-                   "+proj=longlat +datum=potsdam",
-                   6377397.155,
-                   299.1528128,
-                   {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7},
-                   {9, 50}},
-        shift_case{"OsgbByName",
-                   "+proj=longlat +datum=OSGB36",
-                   6377563.396,
-                   299.3249646,
-                   {446.448, -125.157, 542.060, 0.1502, 0.2470, 0.8421, -20.4894},
-                   {-1.5, 53}}),
-    case_name);
-
 TEST(Shift, OfBothSidesWithoutHeight) {
-    const std::array<double, 7> pulkovo{23.57, -140.95, -79.8, 0, 0.35, 0.79, -0.22};
-    const std::array<double, 7> ed50{87, 98, 121, 0, 0, 0, 0};  // from WGS 84
     using namespace closed_form;
+    const parameters ed50{87, 98, 121};  // from WGS 84
     const point expected = geographic(
         position_vector(position_vector(cartesian({39, 55}, 6378245, 298.3), pulkovo), ed50), 6378388, 297);
-    polyline line{{39, 55}};
-    ASSERT_FALSE(
-        transformation::between("+proj=longlat +ellps=krass +towgs84=23.57,-140.95,-79.8,0,0.35,0.79,-0.22",
-                                "+proj=longlat +ellps=intl +towgs84=-87,-98,-121 +lon_wrap=45")
-            ->apply(line));
-    EXPECT_NEAR(line[0].x, expected.x, 1e-11);
-    EXPECT_NEAR(line[0].y, expected.y, 1e-11);
+    expect_near(
+        between(texts::zone7_base, "+proj=longlat +ellps=intl +towgs84=-87,-98,-121 +lon_wrap=45", {39, 55}),
+        expected, 1e-11);
 }
 
 TEST(Transformation, WrapsLongitudesWhereTheTextSaysSo) {
@@ -160,15 +143,13 @@ TEST(Transformation, IsNotNeededBetweenSpellingsOfOneSystem) {
 }
 
 TEST(Transformation, FailsAsAWholeAndNamesTheVertex) {
-    struct {
-        std::string source, target;
-        point bad;
-    } const cases[] = {{texts::utm37, texts::wgs84, {NAN, 6100000}},
-                       {texts::utm37, texts::wgs84, {500000, HUGE_VAL}},
-                       {texts::wgs84, texts::utm37, {39, 91}},
-                       {texts::wgs84, texts::krass, {39, -90.1}},
-                       {texts::wgs84, "+proj=gnom +lat_0=90 +lon_0=39 +datum=WGS84", {39, -10}},
-                       {texts::utm37, texts::wgs84, {1e12, 1e12}}};
+    const std::tuple<std::string, std::string, point> cases[] = {
+        {texts::utm37, texts::wgs84, point{NAN, 6100000}},
+        {texts::utm37, texts::wgs84, point{500000, HUGE_VAL}},
+        {texts::wgs84, texts::utm37, point{39, 91}},
+        {texts::wgs84, texts::krass, point{39, -90.1}},
+        {texts::wgs84, "+proj=gnom +lat_0=90 +lon_0=39 +datum=WGS84", point{39, -10}},
+        {texts::utm37, texts::wgs84, point{1e12, 1e12}}};
     for (const auto& [source, target, bad] : cases) {
         const polyline before{{39, 55}, {39.5, 55.5}, bad, {40, 56}, bad};
         polyline line = before;

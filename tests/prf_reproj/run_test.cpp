@@ -115,10 +115,10 @@ struct question_case {
     const wchar_t *first_after, *second_after;
 };
 
-class Questions : public Run, public testing::WithParamInterface<question_case> {};
-
-TEST_P(Questions, AreAskedBeforeAnythingChanges) {
-    const question_case& c = GetParam();
+TEST_CASES_F(Run, Questions, AreAskedBeforeAnythingChanges, question_case,
+             {"ResetGoesFirst", longlat, L"", L"", true, L"You have not specified", L"", L""},
+             {"AssignToTheOne", longlat, L"", utm, true, L"The selected profile scenes", utm, utm},
+             {"NoChangesNothing", longlat, L"", L"", false, L"You have not specified", longlat, L""}) {
     host().add(L"a", c.first);
     host().add(L"b", c.second);
     host().answer = c.answer;
@@ -133,15 +133,6 @@ TEST_P(Questions, AreAskedBeforeAnythingChanges) {
     EXPECT_EQ(host().messages.size(), c.answer ? 1u : 0u);
     EXPECT_EQ(checked(), c.answer ? 0 : 2);
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, Questions,
-                         testing::Values(question_case{"ResetGoesFirst", longlat, L"", L"", true,
-                                                       L"You have not specified", L"", L""},
-                                         question_case{"AssignToTheOne", longlat, L"", utm, true,
-                                                       L"The selected profile scenes", utm, utm},
-                                         question_case{"NoChangesNothing", longlat, L"", L"", false,
-                                                       L"You have not specified", longlat, L""}),
-                         case_name);
 
 TEST_F(Run, RefusesWhatIsNoProfileOrNothingAtAll) {
     host().add(L"a", longlat);

@@ -8,16 +8,12 @@
 namespace project_test {
 namespace {
 
-struct imported {
+std::pair<std::vector<new_scene>, import_counts> import(const fs::path& source,
+                                                        const import_options& options = {}) {
     std::vector<new_scene> scenes;
-    import_counts counts;
-};
-
-imported import(const fs::path& source, const import_options& options = {}) {
-    imported read;
-    read.counts = load_exchange().import_lines(source, options,
-                                               [&](new_scene&& s) { read.scenes.push_back(std::move(s)); });
-    return read;
+    const auto counts =
+        load_exchange().import_lines(source, options, [&](new_scene&& s) { scenes.push_back(std::move(s)); });
+    return {scenes, counts};
 }
 
 void export_all(const fs::path& out, std::span<const new_scene> scenes, const std::string& crs = "",
@@ -39,26 +35,25 @@ constexpr auto source_text = R"({"type": "FeatureCollection", "name": "lines", "
 {"type": "Feature", "properties": {"Name": "Well"}, "geometry": {"type": "Point", "coordinates": [60, 55]}}]})";
 
 TEST(Import, TakesCaptionsProjectionsAndParts) {
-    const workspace folder;
+    const scratch_folder folder;
     write_bytes(folder / "s.geojson", source_text);
     import_options options;
     options.crs_text = [](std::string_view code) { return "text of " + std::string(code); };
-    const imported read = import(folder / "s.geojson", options);
+    const auto [read, counts] = import(folder / "s.geojson", options);
     const std::vector<new_scene> expected{
         {"Own", true, "+proj=utm +zone=40", polyline{{500000.25, 6200000.5}, {500100, 6200000}}},
         {"None", false, "", polyline{{1, 2}, {3, 4}}},
         {"Layer's 1", true, "text of EPSG:4326", polyline{{60, 55}, {61, 56}}},
         {"Layer's 2", true, "text of EPSG:4326", polyline{{62, 57}, {63, 58}}},
         {"lines 3", true, "text of EPSG:4326", polyline{{0.1, 0.2}, {0.3, 0.4}}}};
-    make_project(folder / "read.gpkg", read.scenes);
+    make_project(folder / "read.gpkg", read);
     expect_scenes(*project::open(folder / "read.gpkg", open_mode::read_only), expected);
-    EXPECT_EQ(read.counts.scenes, 5U);
-    EXPECT_EQ(read.counts.skipped, 1U);
+    EXPECT_TRUE(counts.scenes == 5 && counts.skipped == 1);
 
-    const imported forced =
-        import(folder / "s.geojson", {.proj4 = "forced", .not_profile = true, .crs_text = {}});
-    for (const new_scene& scene : forced.scenes) EXPECT_TRUE(scene.proj4 == "forced" && !scene.profile);
-    EXPECT_EQ(import(folder / "s.geojson").scenes[2].proj4, "+proj=longlat +datum=WGS84 +no_defs");
+    for (const new_scene& scene :
+         import(folder / "s.geojson", {.proj4 = "forced", .not_profile = true, .crs_text = {}}).first)
+        EXPECT_TRUE(scene.proj4 == "forced" && !scene.profile);
+    EXPECT_EQ(import(folder / "s.geojson").first[2].proj4, "+proj=longlat +datum=WGS84 +no_defs");
 }
 
 struct layer_crs {
@@ -66,70 +61,62 @@ struct layer_crs {
     const char* target;
     const char* proj4;  // contained in what the import gives
 };
-class ImportCrs : public testing::TestWithParam<layer_crs> {};
-
 /// GDAL's own tool writes the source; eastings and longitudes come first whatever the authority says.
-TEST_P(ImportCrs, KeepsDatumAndAxes) {
-    const workspace folder;
+TEST_CASES(ImportCrs, KeepsDatumAndAxes, layer_crs, {"GaussKrueger", "EPSG:28407", "+x_0=7500000"},
+           {"LatitudeFirst", "EPSG:4326", "+proj=longlat"}) {
+    const scratch_folder folder;
     write_bytes(
         folder / "s.geojson",
         R"({"type": "Feature", "properties": {}, "geometry": {"type": "LineString", "coordinates": [[39, 55], [39, 56]]}})");
     for (const char* kind : {"gpkg", "shp", "gml"}) {
         const fs::path source = folder / (std::string("t.") + kind);
-        output_of("ogr2ogr -t_srs '" + std::string(GetParam().target) + "' " + source.string() + " " +
-                  (folder / "s.geojson").string());
-        const imported read = import(source);
-        ASSERT_EQ(read.scenes.size(), 1U) << kind;
-        EXPECT_NE(read.scenes[0].proj4.find(GetParam().proj4), std::string::npos)
-            << kind << read.scenes[0].proj4;
-        EXPECT_LT((*read.scenes[0].line)[0].x, 8e6) << kind;
-        const auto [x, y] = (*read.scenes[0].line)[0];
+        output_of("ogr2ogr -t_srs '" + std::string(c.target) + "' " + source.string() + " " +
+                  (folder / "s.geojson"));
+        const auto read = import(source).first;
+        ASSERT_EQ(read.size(), 1U) << kind;
+        EXPECT_NE(read[0].proj4.find(c.proj4), std::string::npos) << kind << read[0].proj4;
+        const auto [x, y] = (*read[0].line)[0];
         EXPECT_TRUE(y > 6e6 ? x > 7.4e6 && x < 7.6e6 : x > 38 && x < 40 && y > 54 && y < 56)
             << kind << x << " " << y;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Layers, ImportCrs,
-                         testing::Values(layer_crs{"GaussKrueger", "EPSG:28407", "+x_0=7500000"},
-                                         layer_crs{"LatitudeFirst", "EPSG:4326", "+proj=longlat"}),
-                         case_name);
-
 class RoundTrip : public testing::TestWithParam<std::string> {};
 
 TEST_P(RoundTrip, GivesTheSameProject) {
-    const workspace folder;
+    const scratch_folder folder;
     const fs::path out = folder / ("out." + GetParam());
     std::vector<new_scene> scenes{sample_scenes.begin(), sample_scenes.begin() + 3};
     scenes[1].line = polyline{{0.1 + 0.2, 1.0 / 3}, {1234567.1234567891, 1e-7 / 3}, {-5, 6e15 / 7}};
     export_all(out, scenes);
-    make_project(folder / "again.gpkg", import(out).scenes);
+    make_project(folder / "again.gpkg", import(out).first);
     expect_scenes(*project::open(folder / "again.gpkg", open_mode::read_only), scenes);
     export_all(out, std::span(scenes).first(1));
-    EXPECT_EQ(import(out).scenes.size(), 1U) << "an existing file is replaced";
+    EXPECT_EQ(import(out).first.size(), 1U) << "an existing file is replaced";
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, RoundTrip, testing::Values("geojson", "gpkg", "shp"),
                          [](const auto& format) { return format.param; });
 
 TEST(Export, GivesTheLayerItsCrs) {
-    const workspace folder;
+    const scratch_folder folder;
     for (const char* name : {"o.gpkg", "o.shp"}) {
         export_all(folder / name, std::span(sample_scenes).first(1), "+proj=utm +zone=40 +datum=WGS84");
-        const std::string seen = output_of("ogrinfo -ro -al -so " + (folder / name).string());
+        const std::string seen = output_of("ogrinfo -ro -al -so " + (folder / name));
         EXPECT_NE(seen.find("UTM zone 40N"), std::string::npos) << seen;
         EXPECT_EQ(seen.find("Warning"), std::string::npos) << seen;
     }
 }
 
 TEST(Exchange, FailuresNameTheFileAndLeaveOutputs) {
-    const workspace folder;
+    const scratch_folder folder;
     make_project(folder / "p.gpkg");
     write_bytes(folder / "text.geojson", "{\"type\": \"FeatureColl");
     write_bytes(folder / "old.geojson", "kept");
     const std::string before = bytes_of(folder / "p.gpkg");
     const auto refused = [&](const std::string& file, const auto& action) {
         const std::string error = error_of(action);
-        EXPECT_TRUE(error.starts_with((folder / file).string() + ": ")) << error;
+        EXPECT_TRUE(error.starts_with((folder / file) + ": ")) << error;
         EXPECT_EQ(error.find('\n'), std::string::npos) << error;
     };
     refused("none.shp", [&] { import(folder / "none.shp"); });
@@ -145,7 +132,7 @@ TEST(Exchange, FailuresNameTheFileAndLeaveOutputs) {
         exchange_error);
     EXPECT_EQ(bytes_of(folder / "old.geojson"), "kept");
     EXPECT_TRUE(bytes_of(folder / "p.gpkg") == before);
-    EXPECT_EQ(folder.files(), 3U) << "nothing half-written stays";
+    EXPECT_EQ(folder.files(), 3) << "nothing half-written stays";
 }
 
 }  // namespace

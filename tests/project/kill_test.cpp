@@ -38,8 +38,8 @@ void expect_whole_scenes(project& of, int& newest) {
 }
 
 TEST(Kill, EverySceneIsWholeAndRecovered) {
-    const workspace folder;
-    const fs::path file = folder / "p.gpkg";
+    const scratch_folder folder;
+    const std::string file = folder / "p.gpkg";
     make_project(file, std::vector<new_scene>(scene_count, {"s", true, "0", line_of(0)}));
     int newest = 0;
     for (int milliseconds : {40, 90, 150, 260, 420}) {
@@ -49,15 +49,14 @@ TEST(Kill, EverySceneIsWholeAndRecovered) {
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
 
-        const std::string left = bytes_of(file);
-        const std::string log = bytes_of(file.string() + "-wal");
+        const auto content = [&] { return bytes_of(file) + bytes_of(file + "-wal"); };
+        const std::string left = content();
         int seen_by_reader = 0;
         expect_whole_scenes(*project::open(file, open_mode::read_only), seen_by_reader);
-        EXPECT_TRUE(bytes_of(file) == left && bytes_of(file.string() + "-wal") == log)
-            << "a reader changed the file";
+        EXPECT_TRUE(content() == left) << "a reader changed the file";
         expect_whole_scenes(*project::open(file, open_mode::read_write), newest);
         EXPECT_EQ(seen_by_reader, newest);
-        EXPECT_EQ(folder.files(), 1U) << "a clean close leaves the project alone";
+        EXPECT_EQ(folder.files(), 1) << "a clean close leaves the project alone";
     }
     EXPECT_GT(newest, 0) << "no child got as far as an update";
 }

@@ -23,15 +23,11 @@ void put(blob& to, auto value, bool little) {
 /// A blob written by hand; what a case changes is what is wrong, or unusual, about it.
 struct builder {
     char second_letter = 'P';
-    unsigned version = 0;
-    unsigned flags = 0;
-    unsigned envelope = 1;
+    unsigned version = 0, flags = 0, envelope = 1;
     bool little = true;
     unsigned order = 2;  // 2: as `little` says
-    std::uint32_t type = 2;
-    std::uint32_t count = 2;
-    std::size_t cut = 0;
-    std::size_t extra = 0;
+    std::uint32_t type = 2, count = 2;
+    std::size_t cut = 0, extra = 0;
 
     blob build() const {
         constexpr std::array<std::size_t, 8> doubles{0, 4, 6, 6, 8, 0, 0, 0};
@@ -57,43 +53,34 @@ struct blob_case {
     const char* complaint;  // empty: reads as the two vertices above
 };
 
-class LineBlob : public testing::TestWithParam<blob_case> {};
-
-TEST_P(LineBlob, ReadsOrNames) {
-    const blob bytes = GetParam().made.build();
+TEST_CASES(LineBlob, ReadsOrNames, blob_case, {"LittleEndian", {}, ""}, {"BigEndian", {.little = false}, ""},
+           {"NoEnvelope", {.envelope = 0}, ""}, {"EnvelopeXyz", {.envelope = 2}, ""},
+           {"EnvelopeXym", {.envelope = 3}, ""}, {"EnvelopeXyzm", {.envelope = 4, .little = false}, ""},
+           {"EnvelopeUnknown", {.envelope = 5}, "geometry has an unknown kind of envelope"},
+           {"Magic", {.second_letter = 'Q'}, "geometry is no GeoPackage blob"},
+           {"Version", {.version = 1}, "geometry has an unknown blob version"},
+           {"Extended", {.flags = 0x20}, "geometry is of an extended type"},
+           {"ByteOrder", {.order = 7}, "geometry has an unknown byte order"},
+           {"Point", {.type = 1}, "geometry is a Point, not a LineString"},
+           {"MultiZ", {.type = 1005}, "geometry is a MultiLineString, not a LineString"},
+           {"Heights", {.type = 1002}, "geometry has heights or measures (lines are 2D)"},
+           {"EwkbHeights", {.type = 0x80000002}, "geometry has heights or measures (lines are 2D)"},
+           {"CountTooLarge", {.count = 0xFFFFFFFF}, "geometry is cut short"},
+           {"CountTooSmall", {.count = 1}, "geometry has bytes after its end"},
+           {"Trailing", {.extra = 1}, "geometry has bytes after its end"}) {
+    const blob bytes = c.made.build();
     polyline line{{7, 7}};
     try {
         decode_line(bytes, line);
-        EXPECT_STREQ(GetParam().complaint, "");
+        EXPECT_STREQ(c.complaint, "");
         EXPECT_EQ(line, (polyline{{1.5, -2.5}, {1e300, 5e-324}}));
         EXPECT_EQ(summarize_blob(bytes).vertices, 2U);
     } catch (const blob_error& e) {
-        EXPECT_STREQ(GetParam().complaint, e.what());
+        EXPECT_STREQ(c.complaint, e.what());
         EXPECT_EQ(line, (polyline{{7, 7}})) << "a refused blob must not change the line";
         EXPECT_THROW(summarize_blob(bytes), blob_error);
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Blobs, LineBlob,
-    testing::Values(
-        blob_case{"LittleEndian", {}, ""}, blob_case{"BigEndian", {.little = false}, ""},
-        blob_case{"NoEnvelope", {.envelope = 0}, ""}, blob_case{"EnvelopeXyz", {.envelope = 2}, ""},
-        blob_case{"EnvelopeXym", {.envelope = 3}, ""},
-        blob_case{"EnvelopeXyzm", {.envelope = 4, .little = false}, ""},
-        blob_case{"EnvelopeUnknown", {.envelope = 5}, "geometry has an unknown kind of envelope"},
-        blob_case{"Magic", {.second_letter = 'Q'}, "geometry is no GeoPackage blob"},
-        blob_case{"Version", {.version = 1}, "geometry has an unknown blob version"},
-        blob_case{"Extended", {.flags = 0x20}, "geometry is of an extended type"},
-        blob_case{"ByteOrder", {.order = 7}, "geometry has an unknown byte order"},
-        blob_case{"Point", {.type = 1}, "geometry is a Point, not a LineString"},
-        blob_case{"MultiZ", {.type = 1005}, "geometry is a MultiLineString, not a LineString"},
-        blob_case{"Heights", {.type = 1002}, "geometry has heights or measures (lines are 2D)"},
-        blob_case{"EwkbHeights", {.type = 0x80000002}, "geometry has heights or measures (lines are 2D)"},
-        blob_case{"CountTooLarge", {.count = 0xFFFFFFFF}, "geometry is cut short"},
-        blob_case{"CountTooSmall", {.count = 1}, "geometry has bytes after its end"},
-        blob_case{"Trailing", {.extra = 1}, "geometry has bytes after its end"}),
-    case_name);
 
 TEST(LineBlob, EveryShorterPieceIsCutShort) {
     const std::size_t size = builder{}.build().size();

@@ -22,21 +22,18 @@ std::wstring read(void (*getter)(void*, void*), void* handle) {
     return text;
 }
 
-class HostModules : public testing::Test {
+class HostModules : public Store {
 protected:
     void SetUp() override {
-        make_project(folder_ / "p.gpkg");
-        opened_ = project::open(folder_ / "p.gpkg", open_mode::read_write);
         set_current_project(opened_.get());
         journal::instance().clear();
     }
     void TearDown() override { set_current_project(nullptr); }
-    void* scene_at(std::uint32_t index) {
+    static void* scene_at(std::uint32_t index) {
         return ox_scns_2d_get(ox_prj_get_scns_2d_ptr(ox_prj_get_instance()), index);
     }
 
-    workspace folder_;
-    std::unique_ptr<project> opened_;
+    std::unique_ptr<project> opened_ = open_project();
 };
 
 TEST_F(HostModules, ServeTheProject) {
@@ -97,7 +94,7 @@ TEST_F(HostModules, BracketCopiesTheLineAndIsRecorded) {
 
 TEST_F(HostModules, RefusedStoreIsRecordedAndLeavesTheScene) {
     opened_ = nullptr;
-    opened_ = project::open(folder_ / "p.gpkg", open_mode::read_only);
+    opened_ = open_project(open_mode::read_only);
     set_current_project(opened_.get());
     void* data = scene_at(0);
     ox_scn_begin_update(data);
@@ -108,7 +105,7 @@ TEST_F(HostModules, RefusedStoreIsRecordedAndLeavesTheScene) {
     ASSERT_EQ(journal::instance().updates().size(), 2U);
     for (const scene_update& record : journal::instance().updates()) {
         EXPECT_FALSE(record.text_stored);
-        EXPECT_EQ(record.store_failure, (folder_ / "p.gpkg").string() + ": is open for reading only");
+        EXPECT_EQ(record.store_failure, file_ + ": is open for reading only");
     }
 }
 
@@ -122,7 +119,7 @@ TEST_F(HostModules, UnreadableLineIsNotReplacedByAnEmptyOne) {
     ox_pv_d2_destroy(copy);
     ox_scn_end_update(data);
     EXPECT_TRUE(journal::instance().updates().front().store_failure);
-    expect_scenes(*project::open(folder_ / "p.gpkg", open_mode::read_only), sample_scenes);
+    expect_stored(sample_scenes);
 }
 
 }  // namespace

@@ -21,67 +21,51 @@ struct bad_file {
     const char* complaint;
 };
 
-class Refuses : public testing::TestWithParam<bad_file> {};
-
-TEST_P(Refuses, WithoutTouching) {
-    const workspace folder;
-    const fs::path file = folder / "p.gpkg";
-    make_project(file);
-    GetParam().damage(file);
-    const std::string before = fs::is_regular_file(file) ? bytes_of(file) : "";
-    for (open_mode mode : {open_mode::read_write, open_mode::read_only, open_mode::scratch}) {
-        const std::string error = error_of([&] { project::open(file, mode); });
-        EXPECT_TRUE(error.starts_with(file.string() + ": " + GetParam().complaint)) << error;
-        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
-    }
-    EXPECT_TRUE((fs::is_regular_file(file) ? bytes_of(file) : "") == before) << "the file was changed";
-}
-
 auto sql(const std::string& statement) {
     return [statement](const fs::path& file) { run_sql(file, statement); };
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Files, Refuses,
-    testing::Values(bad_file{"Missing", [](const fs::path& f) { fs::remove(f); }, "no such file"},
-                    bad_file{"Folder", [](const fs::path& f) { fs::remove(f), fs::create_directory(f); },
-                             "is not a file"},
-                    bad_file{"Text", [](const fs::path& f) { write_bytes(f, std::string(5000, 'x')); },
-                             "is no SQLite database"},
-                    bad_file{"ZeroBytes", [](const fs::path& f) { write_bytes(f, ""); }, "is no GeoPackage"},
-                    bad_file{"PlainSqlite", sql("PRAGMA application_id=0"), "is no GeoPackage"},
-                    bad_file{"ForeignLayer", sql("UPDATE gpkg_geometry_columns SET table_name='roads'"),
-                             "is a GeoPackage, but no project"},
-                    bad_file{"ColumnMissing", sql("ALTER TABLE scenes DROP COLUMN proj4"),
-                             "is a GeoPackage, but no project: its layer 'scenes' lacks proj4"},
-                    bad_file{"Truncated",
-                             [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 8192); },
-                             "is damaged"},
-                    bad_file{"PagesOverwritten",
-                             [](const fs::path& f) {
-                                 const std::string bytes = bytes_of(f);
-                                 write_bytes(
-                                     f, bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x5a'));
-                             },
-                             "is damaged"},
-                    bad_file{"BlobDamaged", sql("UPDATE scenes SET geom=substr(geom, 1, 60) WHERE fid=2"),
-                             "scene 1 \"Plan\": geometry is cut short"}),
-    case_name);
-
-TEST(Store, KeepsScenesInOneCleanFile) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    EXPECT_EQ(folder.files(), 1U);
-    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), sample_scenes);
-    EXPECT_THROW(project::create(folder / "p.gpkg"), project_error);
+TEST_CASES_F(Store, Refuses, WithoutTouching, bad_file,
+             {"Missing", [](const fs::path& f) { fs::remove(f); }, "no such file"},
+             {"Folder", [](const fs::path& f) { fs::remove(f), fs::create_directory(f); }, "is not a file"},
+             {"Text", [](const fs::path& f) { write_bytes(f, std::string(5000, 'x')); },
+              "is no SQLite database"},
+             {"ZeroBytes", [](const fs::path& f) { write_bytes(f, ""); }, "is no GeoPackage"},
+             {"PlainSqlite", sql("PRAGMA application_id=0"), "is no GeoPackage"},
+             {"ForeignLayer", sql("UPDATE gpkg_geometry_columns SET table_name='roads'"),
+              "is a GeoPackage, but no project"},
+             {"ColumnMissing", sql("ALTER TABLE scenes DROP COLUMN proj4"),
+              "is a GeoPackage, but no project: its layer 'scenes' lacks proj4"},
+             {"Truncated", [](const fs::path& f) { fs::resize_file(f, fs::file_size(f) - 8192); },
+              "is damaged"},
+             {"PagesOverwritten",
+              [](const fs::path& f) {
+                  const std::string bytes = bytes_of(f);
+                  write_bytes(f, bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x5a'));
+              },
+              "is damaged"},
+             {"BlobDamaged", sql("UPDATE scenes SET geom=substr(geom, 1, 60) WHERE fid=2"),
+              "scene 1 \"Plan\": geometry is cut short"}) {
+    c.damage(file_);
+    const auto content = [&] { return fs::is_regular_file(file_) ? bytes_of(file_) : ""; };
+    const std::string before = content();
+    for (open_mode mode : {open_mode::read_write, open_mode::read_only, open_mode::scratch}) {
+        const std::string error = error_of([&] { open_project(mode); });
+        EXPECT_TRUE(error.starts_with(file_ + ": " + c.complaint)) << error;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+    }
+    EXPECT_TRUE(content() == before) << "the file was changed";
 }
 
-TEST(Store, OpensInGisProgramsWithoutWarning) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    const std::string seen = output_of("ogrinfo -ro -al " + (folder / "p.gpkg").string());
-    EXPECT_EQ(seen.find("Warning"), std::string::npos) << seen;
-    EXPECT_EQ(seen.find("ERROR"), std::string::npos) << seen;
+TEST_F(Store, KeepsScenesInOneCleanFile) {
+    EXPECT_EQ(folder_.files(), 1);
+    expect_stored(sample_scenes);
+    EXPECT_THROW(project::create(file_), project_error);
+}
+
+TEST_F(Store, OpensInGisProgramsWithoutWarning) {
+    const std::string seen = output_of("ogrinfo -ro -al " + file_);
+    for (const char* bad : {"Warning", "ERROR"}) EXPECT_EQ(seen.find(bad), std::string::npos) << seen;
     for (const char* line :
          {"Geometry: Line String", "Feature Count: 4", "Extent: (1.000000, 2.000000) - (500100",
           "LINESTRING (500000.1 6200000.2,500100.3 6200050.4)", "profile (Integer(Boolean))"})
@@ -93,46 +77,32 @@ struct visit {
     open_mode mode;
     bool changes;
 };
-class Untouched : public testing::TestWithParam<visit> {};
-
-TEST_P(Untouched, EveryByte) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    const std::string before = bytes_of(folder / "p.gpkg");
+TEST_CASES_F(Store, Untouched, EveryByte, visit, {"ReadOnly", open_mode::read_only, false},
+             {"WritableUnchanged", open_mode::read_write, false}, {"DryRun", open_mode::scratch, true}) {
+    const std::string before = bytes_of(file_);
     {
-        auto opened = project::open(folder / "p.gpkg", GetParam().mode);
+        auto opened = open_project(c.mode);
         opened->begin_update(*opened->at(0));
         opened->lend_line(*opened->at(0));
         opened->end_update(*opened->at(0));
-        if (GetParam().changes) {
+        if (c.changes) {
             opened->set_proj4(*opened->at(0), "new");
             opened->append(sample_scenes);
             EXPECT_EQ(opened->state(0).proj4, "new");
         }
     }
-    EXPECT_TRUE(bytes_of(folder / "p.gpkg") == before);
-    EXPECT_EQ(folder.files(), 1U);
+    EXPECT_TRUE(bytes_of(file_) == before);
+    EXPECT_EQ(folder_.files(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, Untouched,
-                         testing::Values(visit{"ReadOnly", open_mode::read_only, false},
-                                         visit{"WritableUnchanged", open_mode::read_write, false},
-                                         visit{"DryRun", open_mode::scratch, true}),
-                         case_name);
-
-TEST(Store, RefusesWhatIsInUse) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    const auto holder = project::open(folder / "p.gpkg", open_mode::read_write);
+TEST_F(Store, RefusesWhatIsInUse) {
+    const auto holder = open_project();
     for (open_mode mode : {open_mode::read_write, open_mode::read_only})
-        EXPECT_EQ(error_of([&] { project::open(folder / "p.gpkg", mode); }),
-                  (folder / "p.gpkg").string() + ": is open in another program");
+        EXPECT_EQ(error_of([&] { open_project(mode); }), file_ + ": is open in another program");
 }
 
-TEST(Store, BracketIsSeenInsideAndStoredAtItsEnd) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+TEST_F(Store, BracketIsSeenInsideAndStoredAtItsEnd) {
+    auto opened = open_project();
     scene& first = *opened->at(0);
     opened->begin_update(first);
     opened->begin_update(first);
@@ -149,19 +119,17 @@ TEST(Store, BracketIsSeenInsideAndStoredAtItsEnd) {
     auto expected = sample_scenes;
     expected[0].proj4 = "new";
     expected[0].line = polyline{{9, 9}, {8, 8}, {7, 7}};
-    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), expected);
+    expect_stored(expected);
 }
 
-TEST(Store, FullDiskLeavesTheSceneAsItWas) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+TEST_F(Store, FullDiskLeavesTheSceneAsItWas) {
+    auto opened = open_project();
     scene& first = *opened->at(0);
     const auto old_handler = signal(SIGXFSZ, SIG_IGN);
     rlimit usual{};
     getrlimit(RLIMIT_FSIZE, &usual);
     rlimit tight = usual;
-    tight.rlim_cur = fs::file_size(folder / "p.gpkg");
+    tight.rlim_cur = fs::file_size(file_);
     setrlimit(RLIMIT_FSIZE, &tight);
     opened->begin_update(first);
     opened->set_line(first, polyline(20000, point{1, 2}));
@@ -173,13 +141,11 @@ TEST(Store, FullDiskLeavesTheSceneAsItWas) {
     expect_scenes(*opened, sample_scenes);
     opened->set_proj4(first, "later");
     opened->close();
-    EXPECT_EQ(project::open(folder / "p.gpkg", open_mode::read_only)->at(0)->proj4, "later");
+    EXPECT_EQ(open_project(open_mode::read_only)->at(0)->proj4, "later");
 }
 
-TEST(Store, RestorePutsBackToTheByte) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+TEST_F(Store, RestorePutsBackToTheByte) {
+    auto opened = open_project();
     const std::vector<scene_state> before{opened->state(0), opened->state(2)};
     opened->set_line(*opened->at(0), {{9, 9}});
     opened->set_proj4(*opened->at(2), "new");
@@ -187,25 +153,21 @@ TEST(Store, RestorePutsBackToTheByte) {
     EXPECT_EQ(opened->state(0).geometry, before[0].geometry);
     expect_scenes(*opened, sample_scenes);
     opened->close();
-    expect_scenes(*project::open(folder / "p.gpkg", open_mode::read_only), sample_scenes);
+    expect_stored(sample_scenes);
 }
 
-TEST(Store, SpatialIndexOfAnotherProgramIsKeptUp) {
-    const workspace folder;
-    make_project(folder / "p.gpkg");
-    output_of("ogrinfo " + (folder / "p.gpkg").string() +
-              " -sql \"SELECT CreateSpatialIndex('scenes', 'geom')\"");
-    auto opened = project::open(folder / "p.gpkg", open_mode::read_write);
+TEST_F(Store, SpatialIndexOfAnotherProgramIsKeptUp) {
+    output_of("ogrinfo " + file_ + " -sql \"SELECT CreateSpatialIndex('scenes', 'geom')\"");
+    auto opened = open_project();
     opened->set_line(*opened->at(0), {{70, 80}, {71, 82}});
     opened->close();
-    sqlite::connection db(folder / "p.gpkg", SQLITE_OPEN_READONLY);
+    sqlite::connection db(file_, SQLITE_OPEN_READONLY);
     EXPECT_EQ(db.ask("SELECT minx || ' ' || maxy FROM rtree_scenes_geom WHERE id=1"), "70.0 82.0");
 }
 
-TEST(Store, DiscardRemovesANewProject) {
-    const workspace folder;
-    project::create(folder / "p.gpkg")->discard();
-    EXPECT_EQ(folder.files(), 0U);
+TEST_F(Store, DiscardRemovesANewProject) {
+    project::create(folder_ / "new.gpkg")->discard();
+    EXPECT_EQ(folder_.files(), 1);
 }
 
 }  // namespace

@@ -1,50 +1,21 @@
 #pragma once
-/// Files of a test: a folder of its own, sample scenes, and what a file holds to the byte.
+/// Sample scenes, and projects that hold them.
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <array>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
-#include <sstream>
 #include <string>
 
 #include "project/project.h"
+#include "testing/scratch_folder.h"
 
 namespace project_test {
 
 using namespace oxhost;
 namespace fs = std::filesystem;
-
-class workspace {
-public:
-    workspace() {
-        std::string name = (fs::temp_directory_path() / "oxhost-test-XXXXXX").string();
-        folder_ = mkdtemp(name.data());
-    }
-    ~workspace() { fs::remove_all(folder_); }
-    fs::path operator/(const std::string& name) const { return folder_ / name; }
-    std::size_t files() const {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), {}));
-    }
-
-private:
-    fs::path folder_;
-};
-
-inline std::string bytes_of(const fs::path& file) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    return std::move(bytes).str();
-}
-
-inline void write_bytes(const fs::path& file, const std::string& bytes) {
-    std::ofstream(file, std::ios::binary) << bytes;
-}
 
 /// What a command prints, both streams.
 inline std::string output_of(const std::string& command) {
@@ -74,13 +45,38 @@ inline void expect_scenes(project& of, std::span<const new_scene> expected) {
     for (std::size_t i = 0; i < expected.size(); ++i) {
         const scene& found = *of.at(i);
         SCOPED_TRACE(expected[i].caption);
-        EXPECT_EQ(found.caption, expected[i].caption);
-        EXPECT_EQ(found.profile, expected[i].profile);
-        EXPECT_EQ(found.proj4, expected[i].proj4);
+        EXPECT_EQ(std::tie(found.caption, found.profile, found.proj4),
+                  std::tie(expected[i].caption, expected[i].profile, expected[i].proj4));
         EXPECT_EQ(found.line.has_value(), expected[i].line.has_value());
         EXPECT_EQ(of.read_line(found), expected[i].line.value_or(polyline{}));
     }
 }
+
+/// A folder with a project of the sample scenes.
+class sample_project : public testing::Test {
+protected:
+    sample_project() { make_project(file_); }
+    auto opened(open_mode mode = open_mode::read_write) const { return project::open(file_, mode); }
+    void expect_stored(std::span<const new_scene> scenes) const {
+        expect_scenes(*opened(open_mode::read_only), scenes);
+    }
+
+    const scratch_folder folder_;
+    const std::string file_ = folder_ / "p.gpkg";
+};
+
+/// A folder with a project of the sample scenes.
+class Store : public testing::Test {
+protected:
+    Store() { make_project(file_); }
+    auto open_project(open_mode mode = open_mode::read_write) const { return project::open(file_, mode); }
+    void expect_stored(std::span<const new_scene> scenes) const {
+        expect_scenes(*open_project(open_mode::read_only), scenes);
+    }
+
+    const scratch_folder folder_;
+    const std::string file_ = folder_ / "p.gpkg";
+};
 
 inline std::string error_of(const auto& action) {
     try {

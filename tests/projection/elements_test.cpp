@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "element_tree.h"
 #include "framework/value_visitors.h"
 #include "projection/crs_dialog.h"
 #include "projection/proj4_input.h"
@@ -63,10 +64,9 @@ struct file_case {
     const char* loaded_as;  ///< empty: not touched
 };
 
-class Files : public Elements, public testing::WithParamInterface<file_case> {};
-
-TEST_P(Files, GoByTheExtension) {
-    const file_case& c = GetParam();
+TEST_CASES_F(Elements, Files, GoByTheExtension, file_case, {"UpperCase", L"C:\\data\\zone7.PJ4", "pj4"},
+             {"Esri", L"/data/zone7.prj", "prj"}, {"DotInAFolder", L"C:\\data.pj4\\noext", ""},
+             {"LastExtension", L"name.prj.bak", ""}, {"NoName", L".pj4", "pj4"}, {"None", L"noext", ""}) {
     const std::string format = c.loaded_as;
     host().files[c.path] = L"+proj=longlat";
     EXPECT_EQ(load_projection_file(c.path), format.empty() ? L"" : L"+proj=longlat");
@@ -76,59 +76,27 @@ TEST_P(Files, GoByTheExtension) {
                                          : (std::vector<std::string>{"load " + format, "save " + format}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Paths, Files,
-                         testing::Values(file_case{"UpperCase", L"C:\\data\\zone7.PJ4", "pj4"},
-                                         file_case{"Esri", L"/data/zone7.prj", "prj"},
-                                         file_case{"DotInAFolder", L"C:\\data.pj4\\noext", ""},
-                                         file_case{"LastExtension", L"name.prj.bak", ""},
-                                         file_case{"NoName", L".pj4", "pj4"},
-                                         file_case{"None", L"noext", ""}),
-                         case_name);
-
 struct identifier_case {
     const char* name;
     const wchar_t *typed, *identifier;
 };
 
-class Identifiers : public testing::TestWithParam<identifier_case> {};
-
-TEST_P(Identifiers, IntegersAreEpsgCodes) {
-    EXPECT_EQ(dialog::crs_identifier(GetParam().typed), GetParam().identifier);
+TEST_CASES(Identifiers, IntegersAreEpsgCodes, identifier_case, {"Blanks", L"  4326\t", L"EPSG:4326"},
+           {"Sign", L"+4326", L"EPSG:4326"}, {"LettersBehind", L"4326a", L"4326a"},
+           {"WithAuthority", L" EPSG:3857\v", L"EPSG:3857"}, {"TooLarge", L"2147483648", L"2147483648"},
+           {"Largest", L"2147483647", L"EPSG:2147483647"}, {"TwoSigns", L"+-5", L"+-5"},
+           {"Empty", L" \n", L""}) {
+    EXPECT_EQ(dialog::crs_identifier(c.typed), c.identifier);
 }
 
-INSTANTIATE_TEST_SUITE_P(Typed, Identifiers,
-                         testing::Values(identifier_case{"Blanks", L"  4326\t", L"EPSG:4326"},
-                                         identifier_case{"Sign", L"+4326", L"EPSG:4326"},
-                                         identifier_case{"LettersBehind", L"4326a", L"4326a"},
-                                         identifier_case{"WithAuthority", L" EPSG:3857\v", L"EPSG:3857"},
-                                         identifier_case{"TooLarge", L"2147483648", L"2147483648"},
-                                         identifier_case{"Largest", L"2147483647", L"EPSG:2147483647"},
-                                         identifier_case{"TwoSigns", L"+-5", L"+-5"},
-                                         identifier_case{"Empty", L" \n", L""}),
-                         case_name);
-
-/// Text of the one multi-line output of an element.
-std::wstring description_of(toolkit::grid_layout<2, 1>& element) {
-    struct finder : element_visitor_impl {
-        custom_pointer found{};
-        void multiline_output(custom_pointer element) override { found = element; }
-    } finder;
-    element.visit_cell(0, 0, make_pointer<element_visitor_impl>(finder));
-    return read_text([&](custom_pointer v) { call<&multiline_output_impl::visit_text>(finder.found, v); });
+std::wstring description_of(grid_layout_impl& element) {
+    const custom_pointer output = element_tree(element).find("output").element;
+    return read_text([&](custom_pointer v) { call<&multiline_output_impl::visit_text>(output, v); });
 }
 
 /// Presses button number `index` of the row below the description.
 void press(element::proj4_input& input, int index) {
-    struct presser : element_visitor_impl {
-        int index = 0;
-        custom_pointer self() { return make_pointer<element_visitor_impl>(*this); }
-        void grid_layout(custom_pointer row) override {
-            call<&grid_layout_impl::visit_cell>(row, index, 0, self());
-        }
-        void button(custom_pointer element) override { call<&button_impl::click>(element); }
-    } presser;
-    presser.index = index;
-    input.visit_cell(0, 1, presser.self());
+    call<&button_impl::click>(element_tree(input).find("button", index).element);
 }
 
 TEST_F(Elements, Proj4InputLoadsSavesAndDescribes) {
@@ -156,53 +124,51 @@ TEST_F(Elements, Proj4InputLoadsSavesAndDescribes) {
 
 using suggestion_menu = toolkit::toolbar<element::detail::proj4_input_toolset, context_menu_impl, void>;
 
+std::wstring caption_of(custom_pointer tool) {
+    return read_text([&](custom_pointer v) { call<&action_tool_impl::visit_caption>(tool, v); });
+}
+
 struct menu_seen : tool_set_visitor_impl {
-    std::vector<std::wstring> ids, captions;
+    std::wstring texts;
     std::vector<custom_pointer> tools;
+    explicit menu_seen(suggestion_menu& menu) {
+        menu.visit_tool_sets(make_pointer<tool_set_visitor_impl>(*this));
+    }
     void visit_tool_set(custom_pointer set) override {
         call<&tool_set_impl::visit_tools>(set, make_pointer<tool_set_visitor_impl>(*this));
     }
     void visit_action_tool(const wchar_t* id, custom_pointer tool) override {
-        ids.emplace_back(id);
-        captions.push_back(
-            read_text([&](custom_pointer v) { call<&action_tool_impl::visit_caption>(tool, v); }));
+        texts += std::wstring(id) + L": " + caption_of(tool) + L"; ";
         tools.push_back(tool);
     }
 };
 
+const std::vector<element::proj4_input::suggestion> two_suggestions{{L"Zone 40", L"+proj=utm +zone=40"},
+                                                                    {L"None", L""}};
+
 TEST_F(Elements, TheSuggestionMenuSetsTheText) {
     element::proj4_input input;
-    input.set_suggestions({{L"Zone 40", L"+proj=utm +zone=40"}, {L"None", L""}});
+    input.set_suggestions(two_suggestions);
     suggestion_menu menu(input);
-    menu_seen seen;
-    menu.visit_tool_sets(make_pointer<tool_set_visitor_impl>(seen));
-    EXPECT_EQ(seen.ids,
-              (std::vector<std::wstring>{L"ox_common_proj4_input_menu_0", L"ox_common_proj4_input_menu_1"}));
-    EXPECT_EQ(seen.captions, (std::vector<std::wstring>{L"Zone 40", L"None"}));
-    element_view_slots view;
-    call<&action_tool_impl::attach_view>(seen.tools[0], make_pointer(view));
+    menu_seen seen(menu);
+    EXPECT_EQ(seen.texts, L"ox_common_proj4_input_menu_0: Zone 40; ox_common_proj4_input_menu_1: None; ");
     call<&action_tool_impl::click>(seen.tools[0]);
     EXPECT_EQ(input.text(), L"+proj=utm +zone=40");
     call<&action_tool_impl::click>(seen.tools[1]);
     EXPECT_EQ(description_of(input), L"described: ");  // set, and empty
-    call<&action_tool_impl::attach_view>(seen.tools[0],
-                                         custom_pointer{});  // gone; the other ends with the menu
 }
 
 TEST_F(Elements, AMenuEntryWithAViewBelongsToTheHostAlsoAfterTheDialog) {
     for (const bool menu_ends_first : {true, false}) {
         element::proj4_input input;
-        input.set_suggestions({{L"Zone 40", L"+proj=utm +zone=40"}, {L"None", L""}});
+        input.set_suggestions(two_suggestions);
         auto menu = std::make_unique<suggestion_menu>(input);
-        menu_seen seen;
-        menu->visit_tool_sets(make_pointer<tool_set_visitor_impl>(seen));
+        const custom_pointer kept = menu_seen(*menu).tools[0];  // the other one ends with the menu
         element_view_slots view;
-        const custom_pointer kept = seen.tools[0];  // the other one ends with the menu
         call<&action_tool_impl::attach_view>(kept, make_pointer(view));
         if (menu_ends_first) {
             menu.reset();
-            EXPECT_EQ(read_text([&](custom_pointer v) { call<&action_tool_impl::visit_caption>(kept, v); }),
-                      L"");
+            EXPECT_EQ(caption_of(kept), L"");
             call<&action_tool_impl::click>(kept);
             EXPECT_EQ(input.text(), L"");
         }
@@ -234,14 +200,8 @@ TEST_F(Elements, AnInputMayEndWhileItTellsOfItsText) {
         void changed() override { input->reset(); }
     } ends;
     ends.input = &input;
-    struct attacher : element_visitor_impl {
-        custom_pointer view{};
-        void multiline_output(custom_pointer element) override {
-            call<&multiline_output_impl::attach_view>(element, view);
-        }
-    } attach;
-    attach.view = make_pointer<element_view_slots>(ends);
-    input->visit_cell(0, 0, make_pointer<element_visitor_impl>(attach));
+    const auto output = element_tree(*input).find("output");
+    output.attach(output.element, make_pointer<element_view_slots>(ends));
     input->choose_suggestion(0);
     EXPECT_FALSE(input);
 }
@@ -250,20 +210,10 @@ TEST_F(Elements, TheCrsDialogClosesWithAResultOnly) {
     dialogs host_dialogs;
     host().crs[L"EPSG:32640"] = L"+proj=utm +zone=40";
     host_dialogs.user = [](custom_pointer docker, custom_pointer buttons) {
-        struct finder : element_visitor_impl {
-            custom_pointer input_{};
-            void grid_layout(custom_pointer grid) override {
-                const int columns = call<&grid_layout_impl::column_count>(grid);
-                for (int i = 0; i < columns * call<&grid_layout_impl::row_count>(grid); ++i)
-                    call<&grid_layout_impl::visit_cell>(grid, i % columns, i / columns,
-                                                        make_pointer<element_visitor_impl>(*this));
-            }
-            void input(custom_pointer element) override { input_ = element; }
-        } finder;
-        finder.grid_layout(call<&docker_impl::element>(docker));
+        const auto line = element_tree(call<&docker_impl::element>(docker)).find("input").element;
         const auto type = [&](const wchar_t* text) {
-            call<&input_impl::set_text>(finder.input_, text);
-            return call<&input_impl::commit>(finder.input_);
+            call<&input_impl::set_text>(line, text);
+            return call<&input_impl::commit>(line);
         };
         const auto apply_enabled = [&] { return call<&button_box_impl::enabled>(buttons, 0); };
         EXPECT_FALSE(apply_enabled());

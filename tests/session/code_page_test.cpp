@@ -32,42 +32,30 @@ struct lossy_case {
     std::wstring wide;
 };
 
-class LossyNarrow : public testing::TestWithParam<lossy_case> {};
-class LossyWide : public testing::TestWithParam<lossy_case> {};
-
-TEST_P(LossyNarrow, ReplacesWhatTheCodePageLacksAndGoesOn) {
-    const auto& [name, page, narrow, wide] = GetParam();
+TEST_CASES(LossyNarrow, ReplacesWhatTheCodePageLacksAndGoesOn, lossy_case,
+           {"CyrillicInWestern", 1252, "a?b", L"a\u0416b"},
+           {"AstralInCyrillic", 1251, "\xC6?", L"\u0416\U0001F30D"},
+           {"LastLetter", 866, "\x86?", L"\u0416\u00E9"},
+           {"HeldBackLetter", 1258, "a\xEA?", L"a\u00EA\u0416"},
+           {"LongText", 1251, std::string(999, '\xC6') + '?', std::wstring(999, L'\u0416') + L'\u4E00'},
+           {"UnknownPage", 42, "", L"abc"}) {
+    const auto& [name, page, narrow, wide] = c;
     EXPECT_EQ(to_narrow(wide.data(), wide.size(), page), narrow);
 }
 
-INSTANTIATE_TEST_SUITE_P(CodePages, LossyNarrow,
-                         testing::Values(lossy_case{"CyrillicInWestern", 1252, "a?b", L"a\u0416b"},
-                                         lossy_case{"AstralInCyrillic", 1251, "\xC6?", L"\u0416\U0001F30D"},
-                                         lossy_case{"LastLetter", 866, "\x86?", L"\u0416\u00E9"},
-                                         lossy_case{"HeldBackLetter", 1258, "a\xEA?", L"a\u00EA\u0416"},
-                                         lossy_case{"LongText", 1251, std::string(999, '\xC6') + '?',
-                                                    std::wstring(999, L'\u0416') + L'\u4E00'},
-                                         lossy_case{"UnknownPage", 42, "", L"abc"}),
-                         case_name);
-
-TEST_P(LossyWide, ReplacesWhatIsNoCharacterAndGoesOn) {
-    const auto& [name, page, narrow, wide] = GetParam();
+TEST_CASES(LossyWide, ReplacesWhatIsNoCharacterAndGoesOn, lossy_case,
+           {"StrayByte", 65001,
+            "a\x80"
+            "b",
+            L"a\xFFFD"
+            L"b"},
+           {"CutShort", 65001, "\xD0\x96\xF0\x9F", L"\u0416\xFFFD"},
+           {"HighInAscii", 20127, "a\xC6", L"a\xFFFD"}, {"HeldBackLetter", 1255, "\xE0", L"\u05D0"},
+           {"HeldBackBeforeDamage", 1255, "\xE0\xD9", L"\u05D0\xFFFD"},
+           {"LongText", 866, std::string(1000, '\x86'), std::wstring(1000, L'\u0416')}) {
+    const auto& [name, page, narrow, wide] = c;
     EXPECT_EQ(to_wide(narrow.data(), narrow.size(), page), wide);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    CodePages, LossyWide,
-    testing::Values(lossy_case{"StrayByte", 65001,
-                               "a\x80"
-                               "b",
-                               L"a\xFFFD"
-                               L"b"},
-                    lossy_case{"CutShort", 65001, "\xD0\x96\xF0\x9F", L"\u0416\xFFFD"},
-                    lossy_case{"HighInAscii", 20127, "a\xC6", L"a\xFFFD"},
-                    lossy_case{"HeldBackLetter", 1255, "\xE0", L"\u05D0"},
-                    lossy_case{"HeldBackBeforeDamage", 1255, "\xE0\xD9", L"\u05D0\xFFFD"},
-                    lossy_case{"LongText", 866, std::string(1000, '\x86'), std::wstring(1000, L'\u0416')}),
-    case_name);
 
 struct locale_case {
     const char* name;
@@ -75,16 +63,15 @@ struct locale_case {
     std::string zhe;  ///< the Cyrillic letter in the locale's character set
 };
 
-class SystemCodePage : public testing::TestWithParam<locale_case> {};
-
-TEST_P(SystemCodePage, IsTheLocalesAndNamesFiles) {
-    const process_locale locale(GetParam().locale);
-    if (locale.missing()) GTEST_SKIP() << "no locale " << GetParam().locale;
-    const std::string& zhe = GetParam().zhe;
+TEST_CASES(SystemCodePage, IsTheLocalesAndNamesFiles, locale_case, {"C", "C", "\xD0\x96"},
+           {"Utf8", "ru_RU.UTF-8", "\xD0\x96"}, {"Cp1251", "ru_RU.CP1251", "\xC6"}) {
+    const process_locale locale(c.locale);
+    if (locale.missing()) GTEST_SKIP() << "no locale " << c.locale;
+    const std::string& zhe = c.zhe;
     EXPECT_EQ(to_narrow(L"\u0416", 1, 0), zhe);
     EXPECT_EQ(to_wide(zhe.data(), zhe.size(), 0), L"\u0416");
 
-    const std::string folder = testing::TempDir() + "ox_" + GetParam().name + "/";
+    const std::string folder = testing::TempDir() + "ox_" + c.name + "/";
     std::filesystem::create_directories(folder);
     const std::wstring path = std::wstring(folder.begin(), folder.end()) + L"\u0416";
     std::FILE* file = ox::platform::open_file(path.c_str(), "w");
@@ -93,12 +80,6 @@ TEST_P(SystemCodePage, IsTheLocalesAndNamesFiles) {
     EXPECT_TRUE(std::filesystem::exists(folder + zhe));
     std::filesystem::remove_all(folder);
 }
-
-INSTANTIATE_TEST_SUITE_P(Locales, SystemCodePage,
-                         testing::Values(locale_case{"C", "C", "\xD0\x96"},
-                                         locale_case{"Utf8", "ru_RU.UTF-8", "\xD0\x96"},
-                                         locale_case{"Cp1251", "ru_RU.CP1251", "\xC6"}),
-                         case_name);
 
 TEST(SystemCodePage, APathThatItCannotSpellOpensNoOtherFile) {
     const process_locale locale("ru_RU.CP1251");

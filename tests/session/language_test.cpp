@@ -18,28 +18,20 @@ struct environment_case {
     language expected;
 };
 
-class EnvironmentLanguage : public testing::TestWithParam<environment_case> {};
-
-TEST_P(EnvironmentLanguage, FollowsTheFirstVariableThatIsSet) {
-    const auto& given = GetParam();
+TEST_CASES(EnvironmentLanguage, FollowsTheFirstVariableThatIsSet, environment_case,
+           {"Nothing", "", "", "", language::english}, {"Lang", "", "", "ru_RU.UTF-8", language::russian},
+           {"MessagesBeforeLang", "", "ru", "en_US.UTF-8", language::russian},
+           {"AllBeforeMessages", "C", "ru_RU", "ru_RU", language::english},
+           {"Kirundi", "rn_BI", "", "ru_RU", language::english},
+           {"LongerCode", "rup_MK", "", "", language::english}) {
     const std::pair<const char*, const char*> variables[] = {
-        {"LC_ALL", given.all}, {"LC_MESSAGES", given.messages}, {"LANG", given.lang}};
+        {"LC_ALL", c.all}, {"LC_MESSAGES", c.messages}, {"LANG", c.lang}};
     for (const auto& [name, value] : variables) setenv(name, value, 1);
-    EXPECT_EQ(oxhost::current_language(), given.expected);
+    EXPECT_EQ(oxhost::current_language(), c.expected);
     oxhost::choose_language(language::russian);
     EXPECT_EQ(oxhost::current_language(), language::russian);
     oxhost::choose_language({});
     for (const auto& [name, value] : variables) unsetenv(name);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Variables, EnvironmentLanguage,
-    testing::Values(environment_case{"Nothing", "", "", "", language::english},
-                    environment_case{"Lang", "", "", "ru_RU.UTF-8", language::russian},
-                    environment_case{"MessagesBeforeLang", "", "ru", "en_US.UTF-8", language::russian},
-                    environment_case{"AllBeforeMessages", "C", "ru_RU", "ru_RU", language::english},
-                    environment_case{"Kirundi", "rn_BI", "", "ru_RU", language::english},
-                    environment_case{"LongerCode", "rup_MK", "", "", language::english}),
-    case_name);
 
 }  // namespace

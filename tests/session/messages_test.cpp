@@ -42,29 +42,22 @@ struct question_case {
     std::optional<bool> answer;
 };
 
-class Questions : public testing::TestWithParam<question_case> {};
-
-TEST_P(Questions, AreAnsweredAndRecorded) {
-    const auto& given = GetParam();
-    scripted_console shown(given.typed, given.terminal, {.questions = given.questions});
-    EXPECT_EQ(messages::instance().ask("Continue?"), given.answer.value_or(false));
+TEST_CASES(Questions, AreAnsweredAndRecorded, question_case,
+           {"YesBeforehand", answering::yes, false, "", true},
+           {"NoBeforehand", answering::no, true, "y\n", false},
+           {"TypedYes", answering::ask, true, "y\n", true},
+           {"TypedRussian", answering::ask, true, "да\n", true},
+           {"JustReturn", answering::ask, true, "\n", false},
+           {"AskedAgain", answering::ask, true, "maybe\nyes\n", true},
+           {"InputEnds", answering::ask, true, "maybe", std::nullopt},
+           {"NobodyToAsk", answering::ask, false, "y\n", std::nullopt}) {
+    scripted_console shown(c.typed, c.terminal, {.questions = c.questions});
+    EXPECT_EQ(messages::instance().ask("Continue?"), c.answer.value_or(false));
     ASSERT_EQ(messages::instance().shown().size(), 1u);
-    EXPECT_EQ(messages::instance().shown()[0].answer, given.answer);
-    EXPECT_EQ(messages::instance().declined(), !given.answer.value_or(false));
+    EXPECT_EQ(messages::instance().shown()[0].answer, c.answer);
+    EXPECT_EQ(messages::instance().declined(), !c.answer.value_or(false));
     EXPECT_NE((shown.out.str() + shown.error.str()).find("Continue?"), std::string::npos);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Console, Questions,
-    testing::Values(question_case{"YesBeforehand", answering::yes, false, "", true},
-                    question_case{"NoBeforehand", answering::no, true, "y\n", false},
-                    question_case{"TypedYes", answering::ask, true, "y\n", true},
-                    question_case{"TypedRussian", answering::ask, true, "да\n", true},
-                    question_case{"JustReturn", answering::ask, true, "\n", false},
-                    question_case{"AskedAgain", answering::ask, true, "maybe\nyes\n", true},
-                    question_case{"InputEnds", answering::ask, true, "maybe", std::nullopt},
-                    question_case{"NobodyToAsk", answering::ask, false, "y\n", std::nullopt}),
-    case_name);
 
 TEST(Console, PutsErrorsOnTheErrorOutputEvenWhenQuiet) {
     for (const bool quiet : {false, true}) {

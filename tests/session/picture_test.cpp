@@ -21,15 +21,6 @@ file_bytes pixels_of(const Buffer& buffer) {
     return {buffer.pixels.get(), buffer.pixels.get() + buffer.size};
 }
 
-class Bitmaps : public testing::TestWithParam<picture_case> {};
-
-TEST_P(Bitmaps, ComeBottomRowFirst) {
-    const auto buffer = read_bitmap_file(byte_view(GetParam().file));
-    EXPECT_TRUE(buffer.loaded);
-    EXPECT_GT(buffer.height, 0);
-    EXPECT_EQ(pixels_of(buffer), GetParam().pixels);
-}
-
 const std::vector<std::uint32_t> two{0x00112233, 0x00445566};  // red, green, blue from the high end
 const file_bytes first{0x33, 0x22, 0x11, 0}, second{0x66, 0x55, 0x44, 0};
 
@@ -39,73 +30,53 @@ file_bytes joined(const std::vector<file_bytes>& parts) {
     return out;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Depths, Bitmaps,
-    testing::Values(
-        picture_case{"OneBit", bmp(3, 1, 1, two, {0b01000000, 0, 0, 0}), joined({first, second, first})},
-        picture_case{"FourBits", bmp(3, 1, 4, two, {0x10, 0x10, 0, 0}), joined({second, first, second})},
-        picture_case{"EightBitsBottomUp", bmp(1, 2, 8, two, {0, 9, 9, 9, 1, 9, 9, 9}),
-                     joined({first, second})},
-        picture_case{"EightBitsTopDown", bmp(1, -2, 8, two, {1, 9, 9, 9, 0, 9, 9, 9}),
-                     joined({first, second})},
-        picture_case{"TwentyFourBits", bmp(1, 2, 24, {}, {1, 2, 3, 9, 4, 5, 6, 9}), {1, 2, 3, 0, 4, 5, 6, 0}},
-        picture_case{"ThirtyTwoBits", bmp(2, 1, 32, {}, {1, 2, 3, 4, 5, 6, 7, 8}), {1, 2, 3, 4, 5, 6, 7, 8}}),
-    case_name);
-
-class Icons : public testing::TestWithParam<picture_case> {};
-
-TEST_P(Icons, ComeAsColourPlaneAndMaskPlane) {
-    const auto buffer = read_icon_file(byte_view(GetParam().file));
+TEST_CASES(Bitmaps, ComeBottomRowFirst, picture_case,
+           {"OneBit", bmp(3, 1, 1, two, {0b01000000, 0, 0, 0}), joined({first, second, first})},
+           {"FourBits", bmp(3, 1, 4, two, {0x10, 0x10, 0, 0}), joined({second, first, second})},
+           {"EightBitsBottomUp", bmp(1, 2, 8, two, {0, 9, 9, 9, 1, 9, 9, 9}), joined({first, second})},
+           {"EightBitsTopDown", bmp(1, -2, 8, two, {1, 9, 9, 9, 0, 9, 9, 9}), joined({first, second})},
+           {"TwentyFourBits", bmp(1, 2, 24, {}, {1, 2, 3, 9, 4, 5, 6, 9}), {1, 2, 3, 0, 4, 5, 6, 0}},
+           {"ThirtyTwoBits", bmp(2, 1, 32, {}, {1, 2, 3, 4, 5, 6, 7, 8}), {1, 2, 3, 4, 5, 6, 7, 8}}) {
+    const auto buffer = read_bitmap_file(byte_view(c.file));
     EXPECT_TRUE(buffer.loaded);
-    EXPECT_EQ(buffer.width, 2u);
-    EXPECT_EQ(buffer.mask_offset, 12u);
-    EXPECT_EQ(buffer.hot_spot_x, 1u);
-    EXPECT_EQ(pixels_of(buffer), GetParam().pixels);
+    EXPECT_GT(buffer.height, 0);
+    EXPECT_EQ(pixels_of(buffer), c.pixels);
 }
 
 const file_bytes diagonal_mask{0x80, 0, 0, 0, 0x40, 0, 0, 0};
 
-INSTANTIATE_TEST_SUITE_P(
-    Depths, Icons,
-    testing::Values(
-        picture_case{"Monochrome",
-                     ico(2, 1, {0, 0xFFFFFF}, joined({{0x40, 0, 0, 0, 0xC0, 0, 0, 0}, diagonal_mask})),
-                     joined({{0, 0, 0}, file_bytes(9, 255), {255, 0, 0, 255}})},
-        picture_case{
-            "TrueColour",
+TEST_CASES(Icons, ComeAsColourPlaneAndMaskPlane, picture_case,
+           {"Monochrome", ico(2, 1, {0, 0xFFFFFF}, joined({{0x40, 0, 0, 0, 0xC0, 0, 0, 0}, diagonal_mask})),
+            joined({{0, 0, 0}, file_bytes(9, 255), {255, 0, 0, 255}})},
+           {"TrueColour",
             ico(2, 24, {}, joined({{1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 0}, diagonal_mask})),
             {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 255, 0, 0, 255}},
-        picture_case{
-            "WithAlpha",
+           {"WithAlpha",
             ico(2, 32, {}, joined({{1, 2, 3, 255, 4, 5, 6, 255, 7, 8, 9, 0, 10, 11, 12, 0}, diagonal_mask})),
-            {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 255, 0, 0, 255}}),
-    case_name);
+            {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 255, 0, 0, 255}}) {
+    const auto buffer = read_icon_file(byte_view(c.file));
+    EXPECT_TRUE(buffer.loaded);
+    EXPECT_EQ(buffer.width, 2u);
+    EXPECT_EQ(buffer.mask_offset, 12u);
+    EXPECT_EQ(buffer.hot_spot_x, 1u);
+    EXPECT_EQ(pixels_of(buffer), c.pixels);
+}
 
 struct damage_case {
     std::string name;
     damage how;
 };
 
-class DamagedPictures : public testing::TestWithParam<damage_case> {};
-
-TEST_P(DamagedPictures, AreRefused) {
-    const damage how = GetParam().how;
+TEST_CASES(DamagedPictures, AreRefused, damage_case, {"CutShort", damage::cut_short},
+           {"Compressed", damage::compressed}, {"NoWidth", damage::no_width}, {"Huge", damage::huge},
+           {"OddDepth", damage::odd_depth}, {"LongPalette", damage::long_palette},
+           {"WildOffset", damage::pixels_in_header}, {"BadMagic", damage::bad_magic}) {
+    const damage how = c.how;
     EXPECT_THROW(read_bitmap_file(byte_view(bmp(1, 1, 1, two, {0, 0, 0, 0}, how))),
                  ox::platform::damaged_picture);
     EXPECT_THROW(read_icon_file(byte_view(ico(1, 1, two, {0, 0, 0, 0, 0, 0, 0, 0}, how))),
                  ox::platform::damaged_picture);
 }
-
-INSTANTIATE_TEST_SUITE_P(Ways, DamagedPictures,
-                         testing::Values(damage_case{"CutShort", damage::cut_short},
-                                         damage_case{"Compressed", damage::compressed},
-                                         damage_case{"NoWidth", damage::no_width},
-                                         damage_case{"Huge", damage::huge},
-                                         damage_case{"OddDepth", damage::odd_depth},
-                                         damage_case{"LongPalette", damage::long_palette},
-                                         damage_case{"WildOffset", damage::pixels_in_header},
-                                         damage_case{"BadMagic", damage::bad_magic}),
-                         case_name);
 
 TEST(DamagedPictures, EveryPrefixOfAFileIsRefusedWithoutACrash) {
     const file_bytes icon = ico(1, 4, two, {0, 0, 0, 0, 0, 0, 0, 0});

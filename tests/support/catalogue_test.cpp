@@ -30,13 +30,23 @@ std::string table_of(const std::array<std::string_view, count>& columns,
     return table.write();
 }
 
+template <class List>
+List loaded(int load(const std::string&, List&), const auto& columns, const std::vector<std::string>& rows) {
+    List list;
+    EXPECT_EQ(load(table_of(columns, rows), list), 0);
+    EXPECT_EQ(list.size(), rows.size());
+    return list;
+}
+auto ellipsoids(const std::vector<std::string>& rows) {
+    return loaded(ox::load_ellps, ox::ellps_columns, rows);
+}
+auto projections(const std::vector<std::string>& rows) {
+    return loaded(ox::load_projections, ox::projection_columns, rows);
+}
+
 TEST(CatalogueLoad, Ellipsoids) {
-    ox::Tox_pj_ellps_list list;
-    const auto path = table_of(
-        ox::ellps_columns,
+    const auto list = ellipsoids(
         {"ELLPS_ID= 7|ELLPS_NAME= * Krass *|ELLPS=krass|A=6378245.0|RF=298.3", "ELLPS_ID=x|A=***|B=1e3m"});
-    ASSERT_EQ(ox::load_ellps(path, list), 0);
-    ASSERT_EQ(list.size(), 2u);
     EXPECT_EQ(list[0].id, 7u);
     EXPECT_EQ(list[0].name, "Krass");
     EXPECT_EQ(list[0].a, 6378245.0);
@@ -45,12 +55,10 @@ TEST(CatalogueLoad, Ellipsoids) {
 }
 
 TEST(CatalogueLoad, DatumsAreNumberedByRow) {
-    ox::Tox_pj_datum_list list;
-    const auto path = table_of(ox::datum_columns, {"DATUM_NAME=one",
-                                                   "DATUM=two|SHIFT_X0=1|SHIFT_Y0=2|SHIFT_Z0=3|ROTAT_X0=4"
-                                                   "|ROTAT_Y0=5|ROTAT_Z0=six|SCALE_F0=-7.5|ELLPS_ID=9"});
-    ASSERT_EQ(ox::load_datums(path, list), 0);
-    ASSERT_EQ(list.size(), 2u);
+    const auto list = loaded(ox::load_datums, ox::datum_columns,
+                             {"DATUM_NAME=one",
+                              "DATUM=two|SHIFT_X0=1|SHIFT_Y0=2|SHIFT_Z0=3|ROTAT_X0=4"
+                              "|ROTAT_Y0=5|ROTAT_Z0=six|SCALE_F0=-7.5|ELLPS_ID=9"});
     EXPECT_EQ(list[1].id, 2u);
     EXPECT_EQ(list[1].towgs84(), (std::array<double, 7>{1, 2, 3, 4, 5, 0, -7.5}));
     EXPECT_EQ(ox::find_datum_by_params(list, 9, {1, 2, 3, 4, 5, 0, -7.5}), &list[1]);
@@ -63,16 +71,14 @@ TEST(CatalogueLoad, DatumsAreNumberedByRow) {
 }
 
 TEST(CatalogueLoad, ProjectionSlots) {
-    ox::Tox_pj_proj_list list;
-    const auto path = table_of(ox::projection_columns,
-                               {"PRJ_NAME=GK|PRJ_ALIAS=Gauss|PROJ=tmerc|SOUTH=1|UNITS=1|UNITS_V=m|ZONE=1|"
-                                "ZONE_V=31.9|ZONE_N=31N|DATUM=S42"
-                                "|LON_0=1|LON_0_MIN=-180|LON_0_MAX=180|K_0=1|K_0_V=0.9996|K=1|K_V=5",
-                                "PROJ=lcc|SOUTH=no|UNITS=0|UNITS_V=m|ZONE=-1|ZONE_V=5|ZONE_N=5N|LAT_1=0|LAT_"
-                                "1_V=1|LAT_1_MIN=1|LAT_TS=-1|LAT_2=***",
-                                "ZONE=1"});
-    ASSERT_EQ(ox::load_projections(path, list), 0);
-    ASSERT_EQ(list.size(), 3u);
+    const auto list =
+        projections({"PRJ_NAME=GK|PRJ_ALIAS=Gauss|PROJ=tmerc|SOUTH=1|UNITS=1|UNITS_V=m|ZONE=1|ZONE_V=31.9|"
+                     "ZONE_N=31N|DATUM=S42"
+                     "|LON_0=1|LON_0_MIN=-180|LON_0_MAX=180|K_0=1|K_0_V=0.9996|K=1|K_V=5",
+                     "PROJ=lcc|SOUTH=no|UNITS=0|UNITS_V=m|ZONE=-1|ZONE_V=5|ZONE_N=5N|LAT_1=0|LAT_1_V=1|LAT_1_"
+                     "MIN=1|LAT_TS=-1"
+                     "|LAT_2=***",
+                     "ZONE=1"});
     const auto& zonal = list[0];
     EXPECT_TRUE(zonal.id == 1 && zonal.name == "GK" && zonal.alias == "Gauss" && zonal.proj == "tmerc");
     EXPECT_TRUE(zonal.south.used && zonal.south.has_value && zonal.south.value && !zonal.south.needs_input);
@@ -94,30 +100,20 @@ TEST(CatalogueLoad, ProjectionSlots) {
 }
 
 TEST(CatalogueLoad, FailuresLeaveTheListEmpty) {
-    ox::Tox_pj_ellps_list list;
-    list.resize(3);
-    EXPECT_EQ(ox::load_ellps("/nowhere/pj_ellps.dbf", list), 1);
-    EXPECT_TRUE(list.empty());
-    list.resize(3);
     const auto without_rf = std::to_array<std::string_view>({"ELLPS_ID", "ELLPS_NAME", "ELLPS", "A", "B"});
-    EXPECT_EQ(ox::load_ellps(table_of(without_rf, {"A=1"}), list), ox::bad_structure);
-    EXPECT_TRUE(list.empty());
-    EXPECT_EQ(ox::load_ellps(table_of(ox::ellps_columns, {}), list), 0);
-    EXPECT_TRUE(list.empty());
+    for (const auto& [path, code] : {std::pair(std::string("/nowhere/pj_ellps.dbf"), 1),
+                                     std::pair(table_of(without_rf, {"A=1"}), ox::bad_structure)}) {
+        ox::Tox_pj_ellps_list list;
+        list.resize(3);
+        EXPECT_EQ(ox::load_ellps(path, list), code);
+        EXPECT_TRUE(list.empty());
+    }
+    EXPECT_TRUE(ellipsoids({}).empty());
 }
 
 TEST(CatalogueFind, EllipsoidByAxes) {
-    ox::Tox_pj_ellps_list list;
-    const auto add = [&](double a, std::optional<double> b, std::optional<double> rf) {
-        auto& ellps = list.append();
-        ellps.id = static_cast<std::uint32_t>(list.size());
-        ellps.a = a;
-        ellps.has_b = b.has_value(), ellps.b = b.value_or(0);
-        ellps.has_rf = rf.has_value(), ellps.rf = rf.value_or(0);
-    };
-    add(6378137, {}, 298.257223563);
-    add(6377563.396, 6356256.909237, {});
-    add(7, 6, 3);
+    const auto list = ellipsoids({"ELLPS_ID=1|A=6378137|RF=298.257223563",
+                                  "ELLPS_ID=2|A=6377563.396|B=6356256.909237", "ELLPS_ID=3|A=7|B=6|RF=3"});
     const auto found = [&](std::optional<double> a, std::optional<double> b, std::optional<double> rf) {
         const auto* ellps = ox::find_ellps_by_axes(list, a, b, rf);
         return ellps ? ellps->id : 0;
@@ -141,44 +137,25 @@ struct match_case {
     std::uint32_t id;
 };
 
-class CatalogueMatch : public testing::TestWithParam<match_case> {};
-
-TEST_P(CatalogueMatch, FindsTheFirst) {
-    ox::Tox_pj_proj_list list;
-    const auto add = [&](auto describe) {
-        auto& record = list.append();
-        record.id = static_cast<std::uint32_t>(list.size());
-        record.proj = "tmerc";
-        describe(record);
-    };
-    add([](auto& r) { r.south = {{false, true, true}, true}, r.k_0.used = true; });
-    add([](auto& r) { r.lat_0 = {{false, true, true}, false, false, 0, 0, 30}, r.k_0.used = true; });
-    add([](auto& r) { r.lat_ts.used = r.lat_1.used = true; });
-    add([](auto& r) { r.k_0.used = r.lat_2.used = true; });
-    const auto* found = ox::match_proj4(list, GetParam().text);
-    EXPECT_EQ(found ? found->id : 0, GetParam().id);
+TEST_CASES(CatalogueMatch, FindsTheFirst, match_case, {"OtherProjection", {.proj = "lcc"}, 0},
+           {"South", {.proj = "TMERC", .south = true}, 1},
+           {"CloseLatitude", {.proj = "tmerc", .lat_0 = 30.00009, .has_k_0 = true}, 2},
+           {"FarLatitude", {.proj = "tmerc", .lat_0 = 30.0002, .has_k_0 = true}, 4},
+           {"NothingAsked", {.proj = "tmerc"}, 3}, {"ScaleFactor", {.proj = "tmerc", .has_k_0 = true}, 4},
+           {"TrueScaleHidesScaleFactor", {.proj = "tmerc", .has_lat_ts = true, .has_k_0 = true}, 3},
+           {"BothParallels", {.proj = "tmerc", .has_lat_1 = true, .has_lat_2 = true}, 0}) {
+    const auto list = projections({"PROJ=tmerc|SOUTH=1|K_0=1", "PROJ=tmerc|LAT_0=1|LAT_0_V=30|K_0=1",
+                                   "PROJ=tmerc|LAT_TS=1|LAT_1=1", "PROJ=tmerc|K_0=1|LAT_2=1"});
+    const auto* found = ox::match_proj4(list, c.text);
+    EXPECT_EQ(found ? found->id : 0, c.id);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, CatalogueMatch,
-    testing::Values(
-        match_case{"OtherProjection", {.proj = "lcc"}, 0},
-        match_case{"South", {.proj = "TMERC", .south = true}, 1},
-        match_case{"CloseLatitude", {.proj = "tmerc", .lat_0 = 30.00009, .has_k_0 = true}, 2},
-        match_case{"FarLatitude", {.proj = "tmerc", .lat_0 = 30.0002, .has_k_0 = true}, 4},
-        match_case{"NothingAsked", {.proj = "tmerc"}, 3},
-        match_case{"ScaleFactor", {.proj = "tmerc", .has_k_0 = true}, 4},
-        match_case{"TrueScaleHidesScaleFactor", {.proj = "tmerc", .has_lat_ts = true, .has_k_0 = true}, 3},
-        match_case{"BothParallels", {.proj = "tmerc", .has_lat_1 = true, .has_lat_2 = true}, 0}),
-    case_name);
 
 TEST(CatalogueFind, ZonesAndGeographicEntries) {
     ox::Tox_pj_proj_list list;
     ox::add_geographic(list);
     EXPECT_TRUE(list[0].id == 1 && list[0].proj == "longlat" && list[1].id == 2 && list[1].proj == "latlong");
-    auto& north = list.append();
-    auto& south = list.append();
-    north.name = south.name = "UTM", north.proj = south.proj = "utm",
+    auto &north = list.append(), &south = list.append();
+    north.name = south.name = "UTM", north.proj = south.proj = "utm";
     north.zone.value = south.zone.value = 40;
     south.south.used = south.south.value = true;
     EXPECT_EQ(ox::find_proj_by_name_zone(list, "utm", 40), &north);

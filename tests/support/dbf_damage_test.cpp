@@ -22,13 +22,8 @@ void use_all(const std::string& path, bool read_only) {
     for (const std::uint32_t record : {0u, 1u, 5u, 0x7FFFFFFFu, 0xFFFFFFFEu}) {
         table.go_record(record);
         for (std::uint32_t i = 0; i < table.field_count() + 2; ++i) {
-            table.get_text(i);
-            table.get_int(i);
-            table.get_double(i);
-            table.get_bool(i);
-            if (record > 0) continue;
-            table.set_double(i, -1e300);
-            table.set_from_text(i, "12");
+            table.get_text(i), table.get_int(i), table.get_double(i), table.get_bool(i);
+            if (record == 0) table.set_double(i, -1e300), table.set_from_text(i, "12");
         }
     }
     table.append_blank_records(1);
@@ -42,41 +37,32 @@ struct damage_case {
     double number;     ///< of column B in record 0
 };
 
-class DbfDamage : public testing::TestWithParam<damage_case> {};
+const double stored = std::bit_cast<double>(std::to_array({'1', '2', '3', '4', '5', '6', '7', '8'}));
 
-TEST_P(DbfDamage, ReadsWhatIsThere) {
-    const auto& damaged = GetParam();
-    const auto path = damaged.table.write();
+TEST_CASES(DbfDamage, ReadsWhatIsThere, damage_case, {"None", two_columns(), 2, "1   ", stored},
+           {"NoColumns", dbf_builder().row({}), 0, "", 0},
+           {"RecordLengthZero", two_columns().claim_record_length(0), 0, "", 0},
+           {"RecordShorterThanColumns", two_columns().claim_record_length(8), 2, "1   ", 0},
+           {"RecordLongerThanFile", two_columns().claim_record_length(65535), 2, "1   ", stored},
+           {"ColumnLongerThanRecord", two_columns().widen(0, 255), 2, "", stored},
+           {"ColumnBeyondRecord", two_columns().displace(1, 6), 2, "1   ", 0},
+           {"DisplacementWraps", two_columns().displace(1, 0xFFFFFFFC), 2, "1   ", 0},
+           {"HeaderLengthZero", two_columns().claim_header_length(0), 0, "", 0},
+           {"HeaderBeyondFile", two_columns().claim_header_length(65535), 2, "", 0},
+           {"FourBillionRecords", two_columns().claim_records(0xFFFFFFFF), 2, "1   ", stored},
+           {"NoRecords", two_columns().claim_records(0), 2, "1   ", stored}) {
+    const auto path = c.table.write();
     {
         ox::Tox_dbf table;
         ASSERT_EQ(table.dbf_open(path, true), 0);
-        EXPECT_EQ(table.field_count(), damaged.columns);
+        EXPECT_EQ(table.field_count(), c.columns);
         table.go_record(0);
-        EXPECT_STREQ(table.get_text(0), damaged.text);
-        EXPECT_EQ(table.get_double(1), damaged.number);
+        EXPECT_STREQ(table.get_text(0), c.text);
+        EXPECT_EQ(table.get_double(1), c.number);
     }
     use_all(path, true);
     use_all(path, false);
 }
-
-const double stored = std::bit_cast<double>(std::to_array({'1', '2', '3', '4', '5', '6', '7', '8'}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DbfDamage,
-    testing::Values(
-        damage_case{"None", two_columns(), 2, "1   ", stored},
-        damage_case{"NoColumns", dbf_builder().row({}), 0, "", 0},
-        damage_case{"RecordLengthZero", two_columns().claim_record_length(0), 0, "", 0},
-        damage_case{"RecordShorterThanColumns", two_columns().claim_record_length(8), 2, "1   ", 0},
-        damage_case{"RecordLongerThanFile", two_columns().claim_record_length(65535), 2, "1   ", stored},
-        damage_case{"ColumnLongerThanRecord", two_columns().widen(0, 255), 2, "", stored},
-        damage_case{"ColumnBeyondRecord", two_columns().displace(1, 6), 2, "1   ", 0},
-        damage_case{"DisplacementWraps", two_columns().displace(1, 0xFFFFFFFC), 2, "1   ", 0},
-        damage_case{"HeaderLengthZero", two_columns().claim_header_length(0), 0, "", 0},
-        damage_case{"HeaderBeyondFile", two_columns().claim_header_length(65535), 2, "", 0},
-        damage_case{"FourBillionRecords", two_columns().claim_records(0xFFFFFFFF), 2, "1   ", stored},
-        damage_case{"NoRecords", two_columns().claim_records(0), 2, "1   ", stored}),
-    case_name);
 
 TEST(DbfDamageSweep, EveryCutAndEveryWrongHeaderByteIsSurvived) {
     const auto sound = dbf_builder::with_columns(ox::projection_columns, 9).row({"a"}).row({"b"}).bytes();

@@ -15,22 +15,15 @@ struct conversion {
     std::wstring wide;
 };
 
-class Encodings : public testing::TestWithParam<conversion> {};
-
-TEST_P(Encodings, ConvertBothWays) {
-    const auto& [name, encoding, narrow, wide] = GetParam();
+TEST_CASES(Encodings, ConvertBothWays, conversion, {"Utf8", 0, "\xD0\x96", L"\u0416"},
+           {"Cp1251", 8, "\xC6", L"\u0416"}, {"Cp1252", 9, "\xC6", L"\u00C6"},
+           {"Cp866", 16, "\x86", L"\u0416"}, {"Ascii", 17, "abc", L"abc"}, {"System", 18, "abc", L"abc"},
+           {"NoPageOfItsOwn", 1, "abc", L"abc"}, {"Empty", 0, "", L""},
+           {"InnerNul", 0, std::string("a\0b", 3), std::wstring(L"a\0b", 3)}) {
+    const auto& [name, encoding, narrow, wide] = c;
     EXPECT_EQ(ox::to_wide(narrow.data(), narrow.size(), encoding), wide);
     EXPECT_EQ(ox::to_narrow(wide.data(), wide.size(), encoding), narrow);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, Encodings,
-    testing::Values(conversion{"Utf8", 0, "\xD0\x96", L"\u0416"}, conversion{"Cp1251", 8, "\xC6", L"\u0416"},
-                    conversion{"Cp1252", 9, "\xC6", L"\u00C6"}, conversion{"Cp866", 16, "\x86", L"\u0416"},
-                    conversion{"Ascii", 17, "abc", L"abc"}, conversion{"System", 18, "abc", L"abc"},
-                    conversion{"NoPageOfItsOwn", 1, "abc", L"abc"}, conversion{"Empty", 0, "", L""},
-                    conversion{"InnerNul", 0, std::string("a\0b", 3), std::wstring(L"a\0b", 3)}),
-    case_name);
 
 TEST(EncodingsOutside, NullAndUnknownEncodingGiveEmptyTexts) {
     EXPECT_EQ(ox::to_wide(nullptr, 3, ox::encoding_utf8), L"");
@@ -45,15 +38,12 @@ TEST(StringAdapter, EachDeliveryReplacesTheTarget) {
         ox::Tox_std_wstring_adapter adapter(target);
         const auto& host = *static_cast<host_double::adapter*>(adapter.handle());
         EXPECT_EQ(target, L"before");
-        host.wide(L"\u0416", host.context);
-        EXPECT_EQ(target, L"\u0416");
-        host.narrow("abc", host.context);
-        EXPECT_EQ(target, L"abc");
-        host.narrow(nullptr, host.context);
-        EXPECT_EQ(target, L"");
+        const auto after = [&](auto deliver, auto* text) { return deliver(text, host.context), target; };
+        EXPECT_EQ(after(host.wide, L"\u0416"), L"\u0416");
+        EXPECT_EQ(after(host.narrow, "abc"), L"abc");
+        EXPECT_EQ(after(host.narrow, static_cast<const char*>(nullptr)), L"");
         host.wide(L"again", host.context);
-        host.wide(nullptr, host.context);
-        EXPECT_EQ(target, L"");
+        EXPECT_EQ(after(host.wide, static_cast<const wchar_t*>(nullptr)), L"");
     }
     EXPECT_EQ(host_double::host().alive(), 0);
 }

@@ -42,34 +42,24 @@ struct progress_case {
     const char* printed;
 };
 
-class EnvConsoleProgress : public testing::TestWithParam<progress_case> {};
-
-TEST_P(EnvConsoleProgress, Prints) {
-    const auto& run = GetParam();
+TEST_CASES(EnvConsoleProgress, Prints, progress_case,
+           {"Full", 0, 10, 10, 0,
+            "....10%....20%....30%....40%....50%....60%....70%....80%....90%....100% - done"},
+           {"NoTotal", 0, 5, 0, 101, " - user stop"}, {"RoundsHalfUp", 1, 3, 200, 5, ". - error"},
+           {"HundredfoldWraps", 42949673, 42949673, 100, 0, " - done"}) {
     const auto printed = printed_by([&](auto& env) {
         const auto progress = env.progress_begin("t");
         EXPECT_EQ(env.progress_begin("second"), 0u);
         env.progress_step(0, 1, 1);
         for (const bool repeated : {false, true}) {
-            for (auto step = run.first; step <= run.last; ++step)
-                env.progress_step(progress, step, run.total);
+            for (auto step = c.first; step <= c.last; ++step) env.progress_step(progress, step, c.total);
             if (!repeated) env.progress_end(progress + 1, 0);
         }
-        env.progress_end(progress, run.outcome);
+        env.progress_end(progress, c.outcome);
         env.progress_step(progress, 1, 1);
     });
-    EXPECT_EQ(printed, std::string("t\n0%") + run.printed + "\n");
+    EXPECT_EQ(printed, std::string("t\n0%") + c.printed + "\n");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Runs, EnvConsoleProgress,
-    testing::Values(
-        progress_case{"Full", 0, 10, 10, 0,
-                      "....10%....20%....30%....40%....50%....60%....70%....80%....90%....100% - done"},
-        progress_case{"NoTotal", 0, 5, 0, 101, " - user stop"},
-        progress_case{"RoundsHalfUp", 1, 3, 200, 5, ". - error"},
-        progress_case{"HundredfoldWraps", 42949673, 42949673, 100, 0, " - done"}),
-    case_name);
 
 TEST(Timers, ReportSecondsSinceTheFirstStart) {
     ox::timer_stop("nobody listens");

@@ -4,23 +4,17 @@
 #include <clocale>
 #include <cstdlib>
 
-class numeric_locale {
-public:
+struct numeric_locale {
     numeric_locale() {
 #ifdef OX_TEST_LOCALES
         setenv("LOCPATH", OX_TEST_LOCALES, 1);
 #endif
-        for (const char* name :
-             {"de_DE.UTF-8", "ru_RU.UTF-8", "ru_RU.CP1251", "fr_FR.UTF-8", "de_DE", "German"}) {
-            set_ = set_ || std::setlocale(LC_NUMERIC, name);
-        }
+        for (const char* name : {"de_DE.UTF-8", "ru_RU.UTF-8", "ru_RU.CP1251", "fr_FR.UTF-8", "German"})
+            if (std::setlocale(LC_NUMERIC, name)) break;
     }
     ~numeric_locale() { std::setlocale(LC_NUMERIC, "C"); }
     numeric_locale(const numeric_locale&) = delete;
     numeric_locale& operator=(const numeric_locale&) = delete;
 
-    bool is_set() const { return set_ && *std::localeconv()->decimal_point == ','; }
-
-private:
-    bool set_ = false;
+    static bool is_set() { return *std::localeconv()->decimal_point == ','; }
 };

@@ -22,51 +22,41 @@ std::string composed(std::string_view text) {
     return params.text();
 }
 
-class Proj4Compose : public testing::TestWithParam<text_case> {};
-
-TEST_P(Proj4Compose, NormalisesAndStaysThere) {
-    std::string expected = GetParam().composed;
+TEST_CASES(Proj4Compose, NormalisesAndStaysThere, text_case, {"Empty", "", ""},
+           {"NothingKnown", "+wktext +no_defs", ""},
+           {"GaussKruger",
+            "+no_defs +units=m +ellps=krass +k=1 +y_0=0 +x_0=7500000 +lat_0=0 +lon_0=39 +proj=tmerc",
+            "+proj=tmerc +lon_0=39 +lat_0=0 +x_0=7500000 +y_0=0 +k_0=1 +ellps=krass +units=m"},
+           {"AllKeys",
+            "+nadgrids=g +units=m +ellps=e +rf=298 +b=2 +a=3 +towgs84=1,2,3,4,5,6,7 +datum=d +alpha=1 "
+            "+k_0=1 +south"
+            "+lat_2=4 +lat_ts=5 +lat_1=6 +y_0=7 +x_0=8 +lat_0=9 +lonc=10 +lon_0=11 +zone=12 +proj=p",
+            "+proj=p +zone=12 +lon_0=11 +lonc=10 +lat_0=9 +x_0=8 +y_0=7 +lat_1=6 +lat_ts=5 +lat_2=4 "
+            "+south +k_0=1 "
+            "+alpha=1 +datum=d +towgs84=1,2,3,4,5,6,7 +a=3 +b=2 +rf=298 +ellps=e +units=m +nadgrids=g"},
+           {"FirstWins", "+proj=utm +proj=lcc", "+proj=utm"},
+           {"KeyCaseAndBlanks", " + PROJ =\tutm\r\n+ZONE= 7.5 ", "+proj=utm +zone=7"},
+           {"NoPlus", "proj=utm", "+proj=utm"}, {"ValueKeepsEqualsSigns", "+proj=a=b", "+proj=a=b"},
+           {"EmptyProj", "+proj= +zone=3", "+zone=3"}, {"BadNumber", "+proj=utm +lat_0=abc", "+proj=utm"},
+           {"NameBeforeAlias", "+k=2 +k_0=3", "+k_0=3"}, {"UnreadableNameHidesAlias", "+k_0=x +k=2", ""},
+           {"RadiusAlone", "+R=6371000", "+a=6371000 +b=6371000"},
+           {"RadiusBesideA", "+a=6378137 +R=6371000", "+a=6378137 +b=6371000"},
+           {"SouthWhateverItSays", "+proj=utm +south=no", "+proj=utm +south"},
+           {"ThreeShifts", "+towgs84=24,-123,-94", "+towgs84=24,-123,-94,0,0,0,0"},
+           {"EightShifts", "+towgs84=1,2,3,4,5,6,7,8", "+towgs84=1,2,3,4,5,6,7"},
+           {"BrokenShifts", "+towgs84=x,,3 , 4", "+towgs84=0,0,3,4,0,0,0"},
+           {"NoShifts", "+towgs84=", "+towgs84=0,0,0,0,0,0,0"},
+           {"SphereByCode", "+ellps=Sphere +towgs84=1,2,3", "+ellps=Sphere"},
+           {"SphereByAxes", "+a=6371000 +b=6371000 +towgs84=1", "+a=6371000 +b=6371000"},
+           {"SphereByFlattening", "+a=6371000 +rf=0 +towgs84=1", "+a=6371000 +rf=0"},
+           {"NoSphereWithoutA", "+rf=0 +b=1 +towgs84=1", "+towgs84=1,0,0,0,0,0,0 +b=1 +rf=0"},
+           {"TwelveDigits", "+lon_0=0.1 +lonc=1e-7 +lat_0=0.12345678901234 +x_0=5e5",
+            "+lon_0=0.1 +lonc=1e-07 +lat_0=0.123456789012 +x_0=500000"}) {
+    std::string expected = c.composed;
     if (!expected.empty()) expected += " +lon_wrap=45 +no_defs";
-    EXPECT_EQ(composed(GetParam().text), expected);
+    EXPECT_EQ(composed(c.text), expected);
     EXPECT_EQ(composed(expected), expected);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, Proj4Compose,
-    testing::Values(
-        text_case{"Empty", "", ""}, text_case{"NothingKnown", "+wktext +no_defs", ""},
-        text_case{"GaussKruger",
-                  "+no_defs +units=m +ellps=krass +k=1 +y_0=0 +x_0=7500000 +lat_0=0 +lon_0=39 +proj=tmerc",
-                  "+proj=tmerc +lon_0=39 +lat_0=0 +x_0=7500000 +y_0=0 +k_0=1 +ellps=krass +units=m"},
-        text_case{"AllKeys",
-                  "+nadgrids=g +units=m +ellps=e +rf=298 +b=2 +a=3 +towgs84=1,2,3,4,5,6,7 +datum=d +alpha=1 "
-                  "+k_0=1 +south"
-                  "+lat_2=4 +lat_ts=5 +lat_1=6 +y_0=7 +x_0=8 +lat_0=9 +lonc=10 +lon_0=11 +zone=12 +proj=p",
-                  "+proj=p +zone=12 +lon_0=11 +lonc=10 +lat_0=9 +x_0=8 +y_0=7 +lat_1=6 +lat_ts=5 +lat_2=4 "
-                  "+south +k_0=1 "
-                  "+alpha=1 +datum=d +towgs84=1,2,3,4,5,6,7 +a=3 +b=2 +rf=298 +ellps=e +units=m +nadgrids=g"},
-        text_case{"FirstWins", "+proj=utm +proj=lcc", "+proj=utm"},
-        text_case{"KeyCaseAndBlanks", " + PROJ =\tutm\r\n+ZONE= 7.5 ", "+proj=utm +zone=7"},
-        text_case{"NoPlus", "proj=utm", "+proj=utm"},
-        text_case{"ValueKeepsEqualsSigns", "+proj=a=b", "+proj=a=b"},
-        text_case{"EmptyProj", "+proj= +zone=3", "+zone=3"},
-        text_case{"BadNumber", "+proj=utm +lat_0=abc", "+proj=utm"},
-        text_case{"NameBeforeAlias", "+k=2 +k_0=3", "+k_0=3"},
-        text_case{"UnreadableNameHidesAlias", "+k_0=x +k=2", ""},
-        text_case{"RadiusAlone", "+R=6371000", "+a=6371000 +b=6371000"},
-        text_case{"RadiusBesideA", "+a=6378137 +R=6371000", "+a=6378137 +b=6371000"},
-        text_case{"SouthWhateverItSays", "+proj=utm +south=no", "+proj=utm +south"},
-        text_case{"ThreeShifts", "+towgs84=24,-123,-94", "+towgs84=24,-123,-94,0,0,0,0"},
-        text_case{"EightShifts", "+towgs84=1,2,3,4,5,6,7,8", "+towgs84=1,2,3,4,5,6,7"},
-        text_case{"BrokenShifts", "+towgs84=x,,3 , 4", "+towgs84=0,0,3,4,0,0,0"},
-        text_case{"NoShifts", "+towgs84=", "+towgs84=0,0,0,0,0,0,0"},
-        text_case{"SphereByCode", "+ellps=Sphere +towgs84=1,2,3", "+ellps=Sphere"},
-        text_case{"SphereByAxes", "+a=6371000 +b=6371000 +towgs84=1", "+a=6371000 +b=6371000"},
-        text_case{"SphereByFlattening", "+a=6371000 +rf=0 +towgs84=1", "+a=6371000 +rf=0"},
-        text_case{"NoSphereWithoutA", "+rf=0 +b=1 +towgs84=1", "+towgs84=1,0,0,0,0,0,0 +b=1 +rf=0"},
-        text_case{"TwelveDigits", "+lon_0=0.1 +lonc=1e-7 +lat_0=0.12345678901234 +x_0=5e5",
-                  "+lon_0=0.1 +lonc=1e-07 +lat_0=0.123456789012 +x_0=500000"}),
-    case_name);
 
 TEST(Proj4, ACommaLocaleChangesNothing) {
     const numeric_locale comma;
@@ -82,26 +72,18 @@ struct equality_case {
     bool equal;
 };
 
-class Proj4Equals : public testing::TestWithParam<equality_case> {};
-
-TEST_P(Proj4Equals, JudgesBothWays) {
+TEST_CASES(Proj4Equals, JudgesBothWays, equality_case, {"Case", "+proj=tmerc", "+proj=TMERC", true},
+           {"CloseNumbers", "+lon_0=39", "+lon_0=39.0000005", true},
+           {"FarNumbers", "+lon_0=39", "+lon_0=39.000002", false},
+           {"Presence", "+proj=utm +south", "+proj=utm", false}, {"Zone", "+zone=3", "+zone=4", false},
+           {"LastShift", "+towgs84=1,2,3", "+towgs84=1,2,3,0,0,0,1", false},
+           {"GridsDoNotCount", "+nadgrids=a", "+nadgrids=b", true}) {
     ox::Tox_proj4_string a, b;
-    a.assign(GetParam().a);
-    b.assign(GetParam().b);
-    EXPECT_EQ(a.params.equals(b.params), GetParam().equal);
-    EXPECT_EQ(b.params.equals(a.params), GetParam().equal);
+    a.assign(c.a);
+    b.assign(c.b);
+    EXPECT_EQ(a.params.equals(b.params), c.equal);
+    EXPECT_EQ(b.params.equals(a.params), c.equal);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Pairs, Proj4Equals,
-    testing::Values(equality_case{"Case", "+proj=tmerc", "+proj=TMERC", true},
-                    equality_case{"CloseNumbers", "+lon_0=39", "+lon_0=39.0000005", true},
-                    equality_case{"FarNumbers", "+lon_0=39", "+lon_0=39.000002", false},
-                    equality_case{"Presence", "+proj=utm +south", "+proj=utm", false},
-                    equality_case{"Zone", "+zone=3", "+zone=4", false},
-                    equality_case{"LastShift", "+towgs84=1,2,3", "+towgs84=1,2,3,0,0,0,1", false},
-                    equality_case{"GridsDoNotCount", "+nadgrids=a", "+nadgrids=b", true}),
-    case_name);
 
 TEST(Proj4, LatlongDropsTheProjectionAndKeepsTheDatum) {
     ox::Tox_proj4_string text;

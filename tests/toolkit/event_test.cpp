@@ -15,10 +15,7 @@ TEST(Event, CallsThoseWhoAreStillThere) {
     event<void()> changed;
     std::string calls;
     auto first = std::make_unique<subscription>(changed, [&] { calls += "first "; });
-    subscription second(changed, [&] {
-        calls += "second ";
-        first.reset();
-    });
+    subscription second(changed, [&] { calls += "second ", first.reset(); });
     subscription third(changed, [&] { calls += "third "; });
     third.connection().disconnect();
     changed.fire();

@@ -39,41 +39,32 @@ TEST(Grid, VisitsCellsByColumnAndRowAndSkipsEmptyOnes) {
     call<&grid_layout_impl::visit_cell>(p, 2, 0, custom_pointer{});
 }
 
+using direction = button_layout::direction;
+using sizes = button_layout::sizes;
 struct layout_case {
     const char* name;
-    button_layout::direction along;
+    direction along;
     button_layout::sizes sizes;
     int buttons, columns, rows;
     unsigned column_value, row_value;
 };
 
-class ButtonLayout : public testing::TestWithParam<layout_case> {};
-
-TEST_P(ButtonLayout, EndsInAnEmptyExpandingCell) {
-    const layout_case& c = GetParam();
+TEST_CASES(ButtonLayout, EndsInAnEmptyExpandingCell, layout_case,
+           {"Empty", direction::row, sizes::natural, 0, 1, 1, 0, 0},
+           {"Row", direction::row, sizes::equal_along, 3, 4, 1, 1, 0},
+           {"Column", direction::column, sizes::equal_along, 2, 1, 3, 0, 1},
+           {"Equal", direction::row, sizes::equal, 2, 3, 1, 1, 1}) {
     button_layout layout(c.along, c.sizes);
     for (int i = 0; i < c.buttons; ++i) layout.add(0, 1);
-    EXPECT_EQ(layout.column_count(), c.columns);
-    EXPECT_EQ(layout.row_count(), c.rows);
-    const bool vertical = c.along == button_layout::direction::column;
+    EXPECT_EQ(std::pair(layout.column_count(), layout.row_count()), std::pair(c.columns, c.rows));
+    const bool vertical = c.along == direction::column;
     EXPECT_EQ(layout.column_expands(c.buttons), !vertical);
     EXPECT_EQ(layout.row_expands(c.buttons), vertical);
-    EXPECT_EQ(layout.column_value(0), c.column_value);
-    EXPECT_EQ(layout.row_value(0), c.row_value);
+    EXPECT_EQ(std::pair(layout.column_value(0), layout.row_value(0)), std::pair(c.column_value, c.row_value));
     kinds_seen seen;
     layout.visit_cell(vertical ? 0 : c.buttons, vertical ? c.buttons : 0, seen.pointer());
     EXPECT_EQ(seen.kinds, "");
 }
-
-using direction = button_layout::direction;
-using sizes = button_layout::sizes;
-INSTANTIATE_TEST_SUITE_P(
-    Shapes, ButtonLayout,
-    testing::Values(layout_case{"Empty", direction::row, sizes::natural, 0, 1, 1, 0, 0},
-                    layout_case{"Row", direction::row, sizes::equal_along, 3, 4, 1, 1, 0},
-                    layout_case{"Column", direction::column, sizes::equal_along, 2, 1, 3, 0, 1},
-                    layout_case{"Equal", direction::row, sizes::equal, 2, 3, 1, 1, 1}),
-    case_name);
 
 }  // namespace
 }  // namespace ox::toolkit

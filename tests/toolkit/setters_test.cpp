@@ -41,10 +41,6 @@ struct setter_case {
     void (*run)();
 };
 
-class Setters : public testing::TestWithParam<setter_case> {};
-
-TEST_P(Setters, TellOnce) { GetParam().run(); }
-
 template <class Element>
 int picture_of(Element& element) {
     struct counter : bitmap_visitor_impl {
@@ -78,7 +74,8 @@ const std::wstring crs_text = L"ID;";
     }
 #define TEXT(operation) texts([&](custom_pointer v) { e.operation(v); })
 
-const setter_case setter_cases[] = {
+TEST_CASES(
+    Setters, TellOnce, setter_case,
     SETTER("ButtonHint", button(0), e.set_hint(crs_id), TEXT(visit_hint), crs_text),
     SETTER("ButtonImage", button(0), e.set_image(5), picture_of(e), 1),
     SETTER("ButtonChecked", button(0), e.set_checked(true), e.checked(), true),
@@ -125,9 +122,9 @@ const setter_case setter_cases[] = {
            std::pair(e.row_shown(0), e.row_shown(1)), std::pair(true, false)),
     SETTER("GridRows", (grid_layout<3, 1>()), e.set_rows_shown({false, true, false}),
            (std::array{e.row_shown(0), e.row_shown(1), e.row_shown(2)}), (std::array{false, true, false})),
-    SETTER("Stack", stack_layout<2>(), e.set_current(1), e.current(), 1u),
-};
-INSTANTIATE_TEST_SUITE_P(Elements, Setters, testing::ValuesIn(setter_cases), case_name);
+    SETTER("Stack", stack_layout<2>(), e.set_current(1), e.current(), 1u)) {
+    c.run();
+}
 
 TEST(Grid, TellsOfWhatIsPutIntoIt) {
     grid_layout<1, 1> grid;
@@ -151,8 +148,7 @@ TEST(ButtonBox, TellsBothViewsOnce) {
     for (int i = 0; i < 2; ++i) box.set_enabled(command::apply, false);
     box.append(0, 4133);
     EXPECT_EQ(box.default_index(), 0);
-    EXPECT_EQ(first.changes, 3);
-    EXPECT_EQ(second.changes, 3);
+    EXPECT_TRUE(first.changes == 3 && second.changes == 3) << first.changes << ' ' << second.changes;
 }
 
 TEST(DropdownEx, TellsNothingWhenItsItemsOnlyStandForOtherValues) {
@@ -171,37 +167,32 @@ TEST(InOneStep, TellsOnceAtTheOutermostEnd) {
     number.attach_view(view.pointer());
     {
         const in_one_step outer(number);
-        {
-            const in_one_step inner(number);
-            number.show(1);
-        }
+        if (const in_one_step inner(number); true) number.show(1);
         number.set_decimals(2);
         EXPECT_EQ(view.changes, 0);
     }
     EXPECT_EQ(view.changes, 1);
 }
 
+struct widget {
+    grid_layout<1, 1> root;
+    grid_layout_impl& element() { return root; }
+};
+
 TEST(Docker, CarriesItsFlag) {
-    struct widget {
-        grid_layout<1, 1> root;
-        grid_layout_impl& element() { return root; }
-    };
     docker<widget> dialog(0);
     EXPECT_TRUE(dialog.flag());
     dialog.set_flag(false);
     EXPECT_FALSE(dialog.flag());
 }
 
-// The host points at them, and they at its views.
-template <class Element>
-constexpr bool stays_where_it_is =
-    !std::is_copy_constructible_v<Element> && !std::is_move_constructible_v<Element> &&
-    !std::is_copy_assignable_v<Element> && !std::is_move_assignable_v<Element>;
-template <class... Elements>
-constexpr bool all_stay_where_they_are = (... && stays_where_it_is<Elements>);
 struct no_tools final : with_tools {
     void visit_tools(const tools_visitor&) override {}
 };
+// The host points at them, and they at its views.
+template <class... Elements>
+constexpr bool all_stay_where_they_are =
+    !(... || (std::is_move_constructible_v<Elements> || std::is_move_assignable_v<Elements>));
 static_assert(
     all_stay_where_they_are<
         button, button_layout, button_box, dropdown, dropdownex<unsigned>, floating_input, grid_layout<1, 1>,

@@ -24,10 +24,12 @@ struct utf8_case {
     enum { both, to_narrow, to_wide } direction = both;
 };
 
-class Utf8 : public testing::TestWithParam<utf8_case> {};
-
-TEST_P(Utf8, MeetsUtf16) {
-    const utf8_case& c = GetParam();
+TEST_CASES(Utf8, MeetsUtf16, utf8_case, {"Cyrillic", "\xD0\x96", L"\x0416"},
+           {"SurrogatePair", "a\xF0\x9F\x8C\x8D", L"a\xD83C\xDF0D"},
+           {"LonelySurrogate", "a\xEF\xBF\xBD!", L"a\xD83C!", utf8_case::to_narrow},
+           {"SurrogatesSwapped", "\xEF\xBF\xBD\xEF\xBF\xBD", L"\xDF0D\xD83C", utf8_case::to_narrow},
+           {"StrayByte", "a\x80!", L"a\xFFFD!", utf8_case::to_wide},
+           {"InnerZero", std::string("a\0!", 3), std::wstring(L"a\0!", 3)}) {
     if (c.direction != utf8_case::to_wide) {
         EXPECT_EQ(ox::wide_to_utf8(c.wide), c.narrow);
     }
@@ -35,17 +37,6 @@ TEST_P(Utf8, MeetsUtf16) {
         EXPECT_EQ(ox::utf8_to_wide(c.narrow), c.wide);
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, Utf8,
-    testing::Values(utf8_case{"Cyrillic", "\xD0\x96", L"\x0416"},
-                    utf8_case{"SurrogatePair", "a\xF0\x9F\x8C\x8D", L"a\xD83C\xDF0D"},
-                    utf8_case{"LonelySurrogate", "a\xEF\xBF\xBD!", L"a\xD83C!", utf8_case::to_narrow},
-                    utf8_case{"SurrogatesSwapped", "\xEF\xBF\xBD\xEF\xBF\xBD", L"\xDF0D\xD83C",
-                              utf8_case::to_narrow},
-                    utf8_case{"StrayByte", "a\x80!", L"a\xFFFD!", utf8_case::to_wide},
-                    utf8_case{"InnerZero", std::string("a\0!", 3), std::wstring(L"a\0!", 3)}),
-    case_name);
 
 TEST(Encodings, ASurrogatePairIsOneLetterThatACodePageLacks) {
     const std::wstring text = L"\xD83C\xDF0D!";

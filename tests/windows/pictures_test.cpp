@@ -25,10 +25,10 @@ struct bitmap_case {
     bytes pixels;
 };
 
-class Bitmaps : public testing::TestWithParam<bitmap_case> {};
-
-TEST_P(Bitmaps, ComeAsFourBytesAPixelBottomRowFirst) {
-    const bitmap_case& c = GetParam();
+TEST_CASES(Bitmaps, ComeAsFourBytesAPixelBottomRowFirst, bitmap_case,
+           {"TrueColour", 205, 3, 2, {1,  2,  3,  0, 4,  5,  6,  0, 7,  8,  9,  0,
+                                      10, 11, 12, 0, 13, 14, 15, 0, 16, 17, 18, 0}},
+           {"Palette", 206, 2, 1, {0x44, 0x55, 0x66, 0, 0x11, 0x22, 0x33, 0}}) {
     const bitmap_buffer bitmap = load_bitmap(basic_module(), c.id);
     ASSERT_TRUE(bitmap.loaded);
     EXPECT_EQ(bitmap.width, c.width);
@@ -36,13 +36,6 @@ TEST_P(Bitmaps, ComeAsFourBytesAPixelBottomRowFirst) {
     ASSERT_EQ(bitmap.size, c.pixels.size());
     EXPECT_EQ(bytes(bitmap.pixels.get(), bitmap.pixels.get() + bitmap.size), c.pixels);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Resources, Bitmaps,
-    testing::Values(bitmap_case{"TrueColour", 205, 3, 2, {1,  2,  3,  0, 4,  5,  6,  0, 7,  8,  9,  0,
-                                                          10, 11, 12, 0, 13, 14, 15, 0, 16, 17, 18, 0}},
-                    bitmap_case{"Palette", 206, 2, 1, {0x44, 0x55, 0x66, 0, 0x11, 0x22, 0x33, 0}}),
-    case_name);
 
 /// Picture 202: in row n from the bottom, pixel 7 - n is white, all others are masked.
 bytes black_and_white_planes() {
@@ -70,10 +63,11 @@ struct icon_case {
     bytes planes;
 };
 
-class Icons : public testing::TestWithParam<icon_case> {};
-
-TEST_P(Icons, ComeAsColourAndMaskBottomRowFirst) {
-    const icon_case& c = GetParam();
+TEST_CASES(Icons, ComeAsColourAndMaskBottomRowFirst, icon_case,
+           {"Masked", 201, 3, 1, 1, true_colour_planes(3, {0, 4, 8})},
+           {"Monochrome", 202, 8, 4, 4, black_and_white_planes()},
+           {"WithAlpha", 203, 2, 1, 1, true_colour_planes(2, {})},
+           {"Cursor", 204, 8, 5, 6, black_and_white_planes()}) {
     const masked_bitmap_buffer icon = load_masked_bitmap(basic_module(), c.id);
     ASSERT_TRUE(icon.loaded);
     EXPECT_EQ(icon.width, c.width);
@@ -84,13 +78,6 @@ TEST_P(Icons, ComeAsColourAndMaskBottomRowFirst) {
     ASSERT_EQ(icon.size, c.planes.size());
     EXPECT_EQ(bytes(icon.pixels.get(), icon.pixels.get() + icon.size), c.planes);
 }
-
-INSTANTIATE_TEST_SUITE_P(Resources, Icons,
-                         testing::Values(icon_case{"Masked", 201, 3, 1, 1, true_colour_planes(3, {0, 4, 8})},
-                                         icon_case{"Monochrome", 202, 8, 4, 4, black_and_white_planes()},
-                                         icon_case{"WithAlpha", 203, 2, 1, 1, true_colour_planes(2, {})},
-                                         icon_case{"Cursor", 204, 8, 5, 6, black_and_white_planes()}),
-                         case_name);
 
 TEST(Pictures, ThatAreMissingAreEmpty) {
     EXPECT_EQ(load_bitmap(own_module(), 66).size, 1024u);
