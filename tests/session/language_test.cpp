@@ -11,10 +11,7 @@ namespace {
 using oxhost::language;
 
 struct environment_case {
-    const char* name;
-    const char* all;
-    const char* messages;
-    const char* lang;
+    const char *name, *all, *messages, *lang;
     language expected;
 };
 

@@ -7,6 +7,7 @@
 namespace {
 
 using ox::platform::byte_view;
+using ox::platform::damaged_picture;
 using ox::platform::read_bitmap_file;
 using ox::platform::read_icon_file;
 
@@ -62,32 +63,26 @@ TEST_CASES(Icons, ComeAsColourPlaneAndMaskPlane, picture_case,
     EXPECT_EQ(pixels_of(buffer), c.pixels);
 }
 
-struct damage_case {
-    std::string name;
-    damage how;
-};
-
-TEST_CASES(DamagedPictures, AreRefused, damage_case, {"CutShort", damage::cut_short},
-           {"Compressed", damage::compressed}, {"NoWidth", damage::no_width}, {"Huge", damage::huge},
-           {"OddDepth", damage::odd_depth}, {"LongPalette", damage::long_palette},
-           {"WildOffset", damage::pixels_in_header}, {"BadMagic", damage::bad_magic}) {
-    const damage how = c.how;
-    EXPECT_THROW(read_bitmap_file(byte_view(bmp(1, 1, 1, two, {0, 0, 0, 0}, how))),
-                 ox::platform::damaged_picture);
-    EXPECT_THROW(read_icon_file(byte_view(ico(1, 1, two, {0, 0, 0, 0, 0, 0, 0, 0}, how))),
-                 ox::platform::damaged_picture);
+TEST(DamagedPictures, AreRefused) {
+    for (const damage how :
+         {damage::cut_short, damage::compressed, damage::no_width, damage::huge, damage::odd_depth,
+          damage::long_palette, damage::pixels_in_header, damage::bad_magic}) {
+        EXPECT_THROW(read_bitmap_file(byte_view(bmp(1, 1, 1, two, {0, 0, 0, 0}, how))), damaged_picture)
+            << static_cast<int>(how);
+        EXPECT_THROW(read_icon_file(byte_view(ico(1, 1, two, {0, 0, 0, 0, 0, 0, 0, 0}, how))),
+                     damaged_picture)
+            << static_cast<int>(how);
+    }
+    EXPECT_THROW(read_bitmap_file(byte_view(bmp(1, 1, 8, two, {2, 0, 0, 0}))), damaged_picture)
+        << "a colour outside the palette";
 }
 
 TEST(DamagedPictures, EveryPrefixOfAFileIsRefusedWithoutACrash) {
     const file_bytes icon = ico(1, 4, two, {0, 0, 0, 0, 0, 0, 0, 0});
     for (std::size_t size = 0; size < icon.size(); ++size) {
         const file_bytes prefix(icon.begin(), icon.begin() + static_cast<std::ptrdiff_t>(size));
-        EXPECT_THROW(read_icon_file(byte_view(prefix)), ox::platform::damaged_picture) << size;
+        EXPECT_THROW(read_icon_file(byte_view(prefix)), damaged_picture) << size;
     }
-}
-
-TEST(DamagedPictures, AColourOutsideThePaletteIsRefused) {
-    EXPECT_THROW(read_bitmap_file(byte_view(bmp(1, 1, 8, two, {2, 0, 0, 0}))), ox::platform::damaged_picture);
 }
 
 }  // namespace
