@@ -1,7 +1,5 @@
 // Lives and deaths across referrers.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <map>
 #include <string>

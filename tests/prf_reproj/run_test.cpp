@@ -1,7 +1,5 @@
 // The list of profile scenes and the run over it, against the recording host.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "framework/value_visitors.h"

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <clocale>
 #include <cstdio>
 
@@ -52,21 +50,18 @@ TEST_CASES(LossyWide, ReplacesWhatIsNoCharacterAndGoesOn, lossy_case,
     EXPECT_EQ(to_wide(narrow.data(), narrow.size(), page), wide);
 }
 
-struct locale_case {
-    const char *name, *locale;
-    std::string zhe;  ///< the Cyrillic letter in the locale's character set
-};
+using locale_case = case_of<const char*, std::string>;  // expected: a Cyrillic letter in its character set
 
 TEST_CASES(SystemCodePage, IsTheLocalesAndNamesFiles, locale_case, {"C", "C", "\xD0\x96"},
            {"Utf8", "ru_RU.UTF-8", "\xD0\x96"}, {"Cp1251", "ru_RU.CP1251", "\xC6"}) {
-    const process_locale locale(c.locale);
-    if (locale.missing) GTEST_SKIP() << "no locale " << c.locale;
-    EXPECT_EQ(to_narrow(L"\u0416", 1, 0), c.zhe);
-    EXPECT_EQ(to_wide(c.zhe.data(), c.zhe.size(), 0), L"\u0416");
+    const process_locale locale(c.given);
+    if (locale.missing) GTEST_SKIP() << "no locale " << c.given;
+    EXPECT_EQ(to_narrow(L"\u0416", 1, 0), c.expected);
+    EXPECT_EQ(to_wide(c.expected.data(), c.expected.size(), 0), L"\u0416");
     std::FILE* file = locale.open(L'\u0416');
     ASSERT_TRUE(file);
     std::fclose(file);
-    EXPECT_TRUE(std::filesystem::exists(locale.folder / c.zhe));
+    EXPECT_TRUE(std::filesystem::exists(locale.folder / c.expected));
 }
 
 TEST(SystemCodePage, APathThatItCannotSpellOpensNoOtherFile) {

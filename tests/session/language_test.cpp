@@ -1,7 +1,5 @@
 #include "session/language.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 
 #include "testing/case_name.h"
