@@ -13,6 +13,14 @@ struct case_name_of {
 };
 inline constexpr case_name_of case_name;
 
+/// What is given, and what is expected of it.
+template <class Given, class Expected = Given>
+struct case_of {
+    const char* name;
+    Given given;
+    Expected expected;
+};
+
 /// A test that runs once for each case, which its body calls `c`:
 ///     TEST_CASES(Suite, Test, case_type, {"First", 1}, {"Second", 2}) { EXPECT_GT(c.value, 0); }
 /// `Suite` becomes a class. With _F it is derived from a fixture of its own.

@@ -1,7 +1,5 @@
 // Colour-keyed images become images with alpha.
 
-#include <gtest/gtest.h>
-
 #include <vector>
 
 #include "border/call.h"

@@ -1,7 +1,5 @@
 // Lives and deaths across referrers.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <map>
 #include <string>
@@ -16,7 +14,7 @@ namespace {
 
 int services_alive = 0;
 
-struct service final : util::referent<utility_service_impl> {
+struct service : util::referent<utility_service_impl> {
     explicit service(custom_pointer owner = {}) : obj(owner) { ++services_alive; }
     ~service() override { --services_alive; }
     custom_pointer pointer() { return make_pointer<utility_service_impl>(*this); }
@@ -25,6 +23,19 @@ struct service final : util::referent<utility_service_impl> {
 
 using holding = ref<utility_service, 0>;
 using observing = ref<utility_service, 1>;
+
+/// What it does when it is told or asked is the test's.
+struct scripted final : referrer_impl {
+    bool held = false;
+    std::function<void()> when_told, when_asked;
+    void released(custom_pointer) override {
+        if (when_told) when_told();
+    }
+    bool holds() override {
+        if (when_asked) when_asked();
+        return held;
+    }
+};
 
 class Referents : public testing::Test {
 protected:
@@ -86,21 +97,19 @@ TEST_F(Referents, AReferrerAddedTwiceIsRemovedTwice) {
     } twice;
     const custom_pointer referrer = make_pointer<referrer_impl>(twice);
     const custom_pointer referent = (new service)->referent_pointer();
-    EXPECT_EQ(call<&referent_impl::add_referrer>(referent, referrer), 1u);
-    EXPECT_EQ(call<&referent_impl::add_referrer>(referent, referrer), 2u);
-    call<&referent_impl::remove_referrer>(referent, referrer);
-    EXPECT_EQ(services_alive, 1);
-    call<&referent_impl::remove_referrer>(referent, referrer);
-    EXPECT_EQ(services_alive, 0);
+    for (const unsigned count : {1u, 2u})
+        EXPECT_EQ(call<&referent_impl::add_referrer>(referent, referrer), count);
+    for (const int left : {1, 0}) {
+        call<&referent_impl::remove_referrer>(referent, referrer);
+        EXPECT_EQ(services_alive, left);
+    }
     EXPECT_EQ(twice.told, 0);
 }
 
 // ---- References that live in what other references release ----
 
-struct link final : util::referent<utility_service_impl> {
-    link() : obj(custom_pointer{}) { ++services_alive; }
-    ~link() override { --services_alive; }
-    custom_pointer pointer() { return make_pointer<utility_service_impl>(*this); }
+struct link final : service {
+    link() : obj(custom_pointer{}) {}
     holding next;
 };
 
@@ -133,10 +142,7 @@ TEST_F(Referents, AReferenceMayBeSetAnewWhileItsTargetEnds) {
     auto *first = new link, *second = new link;
     const holding holder(second->pointer());
     observing watcher;
-    struct resetter final : referrer_impl {
-        std::function<void()> when_told;
-        void released(custom_pointer) override { when_told(); }
-    } resetter;
+    scripted resetter;
     resetter.when_told = [&] { watcher.reset(second->pointer()); };
     holding head(first->pointer());
     first->add_referrer(make_pointer<referrer_impl>(resetter));
@@ -146,22 +152,6 @@ TEST_F(Referents, AReferenceMayBeSetAnewWhileItsTargetEnds) {
 }
 
 // ---- Referrers that come and go while a referent asks or tells them ----
-
-/// Named by a letter; what it does when it is told or asked is the test's.
-struct scripted final : referrer_impl {
-    char letter = 0;
-    bool held = false;
-    std::function<void()> when_told, when_asked;
-    std::string* told = nullptr;
-    void released(custom_pointer) override {
-        *told += letter;
-        if (when_told) when_told();
-    }
-    bool holds() override {
-        if (when_asked) when_asked();
-        return held;
-    }
-};
 
 struct meanwhile_case {
     const char* name;
@@ -186,13 +176,12 @@ TEST_CASES_F(
     std::string told;
     std::map<char, scripted> referrers;
     const auto of = [&](char letter) {
-        scripted& named = referrers[letter];
-        named.letter = letter;
-        named.held = letter >= 'A' && letter <= 'Z';
-        named.told = &told;
-        return make_pointer<referrer_impl>(named);
+        const auto [at, added] = referrers.try_emplace(letter);
+        if (added) at->second.held = letter >= 'A' && letter <= 'Z';
+        if (added) at->second.when_told = [&told, letter] { told += letter; };
+        return make_pointer<referrer_impl>(at->second);
     };
-    const auto act = [&, done = false]() mutable {
+    auto act = [&, done = false]() mutable {
         if (std::exchange(done, true)) return;
         for (const char* step = c.acts; *step; step += 2)
             if (*step == '-')
@@ -203,7 +192,10 @@ TEST_CASES_F(
     for (const char* letter = c.referrers; *letter; ++letter)
         call<&referent_impl::add_referrer>(referent, of(*letter));
     scripted& actor = referrers[c.actor];
-    (std::string_view(c.when) == "told" ? actor.when_told : actor.when_asked) = act;
+    if (std::string_view(c.when) == "told")
+        actor.when_told = [tell = actor.when_told, act]() mutable { tell(), act(); };
+    else
+        actor.when_asked = act;
     call<&referent_impl::remove_referrer>(referent, of('z'));
     EXPECT_EQ(told, c.told);
     EXPECT_EQ(services_alive, 0);

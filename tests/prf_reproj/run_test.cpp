@@ -1,7 +1,5 @@
 // The list of profile scenes and the run over it, against the recording host.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "framework/value_visitors.h"
@@ -26,12 +24,19 @@ const host_double::line moved{{101, 202}, {103, 204}};
 
 class Run : public testing::Test {
 protected:
-    void SetUp() override { host_double::reset(); }
+    void SetUp() override {
+        host_double::reset();
+        list.on_changed = [this] { ++changes; };
+    }
     void TearDown() override {
         EXPECT_EQ(host().alive(), 0);
         EXPECT_EQ(host().given_null, strings{});
     }
 
+    void add(std::initializer_list<const wchar_t*> captions, const wchar_t* pj4) {
+        for (const wchar_t* caption : captions) host().add(caption, pj4);
+        list.rebuild(current_scenes());
+    }
     void list_all(const std::wstring& target) {
         list.rebuild(current_scenes());
         list.set_target(target);
@@ -44,6 +49,7 @@ protected:
     int checked() const { return static_cast<int>(std::ranges::count(list.rows, true, &prf_row::checked)); }
 
     prf_list list;
+    int changes = 0;
 };
 
 TEST_F(Run, ListsProfilesOnlyAndMarksTheDifferentOnes) {
@@ -52,9 +58,7 @@ TEST_F(Run, ListsProfilesOnlyAndMarksTheDifferentOnes) {
     host().add(L"no data", utm).has_data = false;
     host().add(L"b", L"");
     host().add(L"c", L"+proj=utm +zone=40 +no_defs");
-    int changes = 0;
     std::vector<projection_suggestion> suggested;
-    list.on_changed = [&] { ++changes; };
     list.on_suggestions = [&](auto suggestions) { suggested = suggestions; };
     list.rebuild(current_scenes());
     ASSERT_EQ(list.rows.size(), 3u);
@@ -79,11 +83,9 @@ TEST_F(Run, ListsProfilesOnlyAndMarksTheDifferentOnes) {
 }
 
 TEST_F(Run, ReprojectsInOrderInsideEachScenesBracket) {
-    host().add(L"a", longlat);
-    host().add(L"b", longlat);
+    add({L"a", L"b"}, longlat);
     list_all(utm);
-    int changes = 0;
-    list.on_changed = [&] { ++changes; };
+    changes = 0;
     EXPECT_FALSE(run());
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(host().log,
@@ -135,8 +137,7 @@ TEST_CASES_F(Run, Questions, AreAskedBeforeAnythingChanges, question_case,
 }
 
 TEST_F(Run, RefusesWhatIsNoProfileOrNothingAtAll) {
-    host().add(L"a", longlat);
-    host().add(L"b", longlat);
+    add({L"a", L"b"}, longlat);
     list_all(utm);
     host().scenes[1]->profile = false;
     run();
@@ -152,7 +153,7 @@ TEST_F(Run, WhateverTheHostRefusesTheRestStaysWhole) {
     // run.
     for (std::size_t k = 1; k <= 13; ++k) {
         host_double::reset();
-        for (const wchar_t* caption : {L"a", L"b", L"c"}) host().add(caption, longlat);
+        add({L"a", L"b", L"c"}, longlat);
         list_all(utm);
         host().refuse = k;
         run();
@@ -202,9 +203,7 @@ TEST_F(Run, AProfileWithoutALineFailsWhereALineIsToMove) {
     list_all(utm);
     run();
     EXPECT_EQ(host().errors, texts{L"Reprojection error"});
-    EXPECT_EQ(host().scenes[0]->pj4, utm);
-    EXPECT_EQ(host().scenes[1]->pj4, longlat);
-    EXPECT_EQ(host().scenes[2]->pj4, longlat);
+    for (const std::size_t i : {0u, 1u, 2u}) EXPECT_EQ(host().scenes[i]->pj4, i == 0 ? utm : longlat) << i;
 
     list_all(L"");  // where only the texts are set it does not matter
     run();
@@ -220,13 +219,11 @@ custom_pointer item(toolkit::outline_table_item_index&& index) {
 #define ROW(n) item(toolkit::outline_table_item_index(n))
 
 TEST_F(Run, ACheckBoxOfASelectedRowStandsForTheSelection) {
-    for (const wchar_t* caption : {L"a", L"b", L"c", L"d"}) host().add(caption, utm);
-    list.rebuild(current_scenes());
-    int changes = 0;
-    list.on_changed = [&] { ++changes; };
+    add({L"a", L"b", L"c", L"d"}, utm);
     element::detail::prf_outline table(list);
     element::detail::prf_check checks(list);
     for (const unsigned row : {0u, 2u}) table.set_selected(ROW(row), true);
+    changes = 0;
     checks.set_state(ROW(1), true);
     EXPECT_EQ(changes, 0);
     checks.set_state(ROW(2), true);
@@ -261,19 +258,15 @@ TEST_F(Run, WhereThereIsNoRowStandsAnEmptyOne) {
 
 TEST_F(Run, ColumnsSortByCodeUnits) {
     // In the order in which they sort.
-    for (const wchar_t* caption : {L"", L"A", L"AB", L"a", L"Б"}) host().add(caption, utm);
-    list.rebuild(current_scenes());
+    add({L"", L"A", L"AB", L"a", L"Б"}, utm);
     element::detail::prf_name_column column(list);
     for (unsigned a = 0; a < 5; ++a)
         for (unsigned b = 0; b < 5; ++b) EXPECT_EQ(column.sorts_after(ROW(a), ROW(b)), a > b) << a << b;
 }
 
 TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
-    for (const wchar_t* caption : {L"a", L"b", L"c"}) host().add(caption, utm);
-    list.rebuild(current_scenes());
+    add({L"a", L"b", L"c"}, utm);
     list.rows[1].selected = true;
-    int changes = 0;
-    list.on_changed = [&] { ++changes; };
     element::detail::prf_tools tools(list);
     struct clicker : tool_set_visitor_impl {
         std::wstring wanted;
@@ -283,9 +276,9 @@ TEST_F(Run, ToolsActOnTheCheckMarksOfAllRows) {
     } clicker;
     const auto click = [&](const wchar_t* id) {
         clicker.wanted = id;
-        const int before = changes;
+        changes = 0;
         tools.visit_tools({make_pointer<tool_set_visitor_impl>(clicker), 0, nullptr});
-        EXPECT_EQ(changes, before + 1);
+        EXPECT_EQ(changes, 1);
         return checked();
     };
     EXPECT_EQ(click(L"oxk_scn2d_prf_reproj_select_tool"), 3);

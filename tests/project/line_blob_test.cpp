@@ -1,7 +1,5 @@
 #include "project/line_blob.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -47,11 +45,8 @@ struct builder {
     }
 };
 
-struct blob_case {
-    const char* name;
-    builder made;
-    const char* complaint;  // empty: reads as the two vertices above
-};
+// A complaint is expected, or none where the two vertices above are read.
+using blob_case = case_of<builder, const char*>;
 
 TEST_CASES(LineBlob, ReadsOrNames, blob_case, {"LittleEndian", {}, ""}, {"BigEndian", {.little = false}, ""},
            {"NoEnvelope", {.envelope = 0}, ""}, {"EnvelopeXyz", {.envelope = 2}, ""},
@@ -68,15 +63,15 @@ TEST_CASES(LineBlob, ReadsOrNames, blob_case, {"LittleEndian", {}, ""}, {"BigEnd
            {"CountTooLarge", {.count = 0xFFFFFFFF}, "geometry is cut short"},
            {"CountTooSmall", {.count = 1}, "geometry has bytes after its end"},
            {"Trailing", {.extra = 1}, "geometry has bytes after its end"}) {
-    const blob bytes = c.made.build();
+    const blob bytes = c.given.build();
     polyline line{{7, 7}};
     try {
         decode_line(bytes, line);
-        EXPECT_STREQ(c.complaint, "");
+        EXPECT_STREQ(c.expected, "");
         EXPECT_EQ(line, (polyline{{1.5, -2.5}, {1e300, 5e-324}}));
         EXPECT_EQ(summarize_blob(bytes).vertices, 2U);
     } catch (const blob_error& e) {
-        EXPECT_STREQ(c.complaint, e.what());
+        EXPECT_STREQ(c.expected, e.what());
         EXPECT_EQ(line, (polyline{{7, 7}})) << "a refused blob must not change the line";
         EXPECT_THROW(summarize_blob(bytes), blob_error);
     }

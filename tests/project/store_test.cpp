@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
 

@@ -53,19 +53,6 @@ inline void expect_scenes(project& of, std::span<const new_scene> expected) {
 }
 
 /// A folder with a project of the sample scenes.
-class sample_project : public testing::Test {
-protected:
-    sample_project() { make_project(file_); }
-    auto opened(open_mode mode = open_mode::read_write) const { return project::open(file_, mode); }
-    void expect_stored(std::span<const new_scene> scenes) const {
-        expect_scenes(*opened(open_mode::read_only), scenes);
-    }
-
-    const scratch_folder folder_;
-    const std::string file_ = folder_ / "p.gpkg";
-};
-
-/// A folder with a project of the sample scenes.
 class Store : public testing::Test {
 protected:
     Store() { make_project(file_); }

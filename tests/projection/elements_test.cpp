@@ -1,7 +1,5 @@
 // Projection files, the CRS dialog, the proj4 input, and the dialogs that they open.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
 #include "element_tree.h"
@@ -26,8 +24,8 @@ struct dialogs : dialog_host_impl {
 
     void ask_file(std::int32_t, const wchar_t* filter, custom_pointer visitor) override {
         EXPECT_TRUE(std::wstring(filter).ends_with(L"(*.prj)|*.prj"));
-        if (!path.empty()) call<&string_visitor_impl::visit>(visitor, path.c_str());
-        if (path.empty() && cancels_by_null) call<&string_visitor_impl::visit>(visitor, nullptr);
+        if (!path.empty() || cancels_by_null)
+            call<&string_visitor_impl::visit>(visitor, path.empty() ? nullptr : path.c_str());
     }
     bool show_modal(custom_pointer docker, custom_pointer buttons) override {
         return user && user(docker, buttons);
@@ -37,10 +35,7 @@ struct dialogs : dialog_host_impl {
         attach(plain_);
         attach(crs_);
     }
-    ~dialogs() {
-        plain_.current = nullptr;
-        crs_.current = nullptr;
-    }
+    ~dialogs() { plain_.current = nullptr, crs_.current = nullptr; }
 
 private:
     template <class Place>
@@ -58,35 +53,26 @@ protected:
     void TearDown() override { EXPECT_EQ(host().alive(), 0); }
 };
 
-struct file_case {
-    const char* name;
-    const wchar_t* path;
-    const char* loaded_as;  ///< empty: not touched
-};
+using file_case = case_of<const wchar_t*, std::string>;  // expected: what it is loaded as; empty: not touched
 
 TEST_CASES_F(Elements, Files, GoByTheExtension, file_case, {"UpperCase", L"C:\\data\\zone7.PJ4", "pj4"},
              {"Esri", L"/data/zone7.prj", "prj"}, {"DotInAFolder", L"C:\\data.pj4\\noext", ""},
              {"LastExtension", L"name.prj.bak", ""}, {"NoName", L".pj4", "pj4"}, {"None", L"noext", ""}) {
-    const std::string format = c.loaded_as;
-    host().files[c.path] = L"+proj=longlat";
-    EXPECT_EQ(load_projection_file(c.path), format.empty() ? L"" : L"+proj=longlat");
-    save_projection_file(c.path, L"+proj=utm");
-    EXPECT_EQ(host().files[c.path], format.empty() ? L"+proj=longlat" : L"+proj=utm");
-    EXPECT_EQ(host().log, format.empty() ? std::vector<std::string>{}
-                                         : (std::vector<std::string>{"load " + format, "save " + format}));
+    const bool known = !c.expected.empty();
+    host().files[c.given] = L"+proj=longlat";
+    EXPECT_EQ(load_projection_file(c.given), known ? L"+proj=longlat" : L"");
+    save_projection_file(c.given, L"+proj=utm");
+    EXPECT_EQ(host().files[c.given], known ? L"+proj=utm" : L"+proj=longlat");
+    using log = std::vector<std::string>;
+    EXPECT_EQ(host().log, (known ? log{"load " + c.expected, "save " + c.expected} : log{}));
 }
 
-struct identifier_case {
-    const char* name;
-    const wchar_t *typed, *identifier;
-};
-
-TEST_CASES(Identifiers, IntegersAreEpsgCodes, identifier_case, {"Blanks", L"  4326\t", L"EPSG:4326"},
+TEST_CASES(Identifiers, IntegersAreEpsgCodes, case_of<const wchar_t*>, {"Blanks", L"  4326\t", L"EPSG:4326"},
            {"Sign", L"+4326", L"EPSG:4326"}, {"LettersBehind", L"4326a", L"4326a"},
            {"WithAuthority", L" EPSG:3857\v", L"EPSG:3857"}, {"TooLarge", L"2147483648", L"2147483648"},
            {"Largest", L"2147483647", L"EPSG:2147483647"}, {"TwoSigns", L"+-5", L"+-5"},
            {"Empty", L" \n", L""}) {
-    EXPECT_EQ(dialog::crs_identifier(c.typed), c.identifier);
+    EXPECT_EQ(dialog::crs_identifier(c.given), c.expected);
 }
 
 std::wstring description_of(grid_layout_impl& element) {
@@ -151,11 +137,14 @@ TEST_F(Elements, TheSuggestionMenuSetsTheText) {
     input.set_suggestions(two_suggestions);
     suggestion_menu menu(input);
     menu_seen seen(menu);
-    EXPECT_EQ(seen.texts, L"ox_common_proj4_input_menu_0: Zone 40; ox_common_proj4_input_menu_1: None; ");
+    EXPECT_EQ(seen.texts,
+              L"ox_common_proj4_input_menu_0: Zone 40; "
+              L"ox_common_proj4_input_menu_1: None; ");
     call<&action_tool_impl::click>(seen.tools[0]);
     EXPECT_EQ(input.text(), L"+proj=utm +zone=40");
     call<&action_tool_impl::click>(seen.tools[1]);
-    EXPECT_EQ(description_of(input), L"described: ");  // set, and empty
+    EXPECT_EQ(description_of(input),
+              L"described: ");  // set, and empty
 }
 
 TEST_F(Elements, AMenuEntryWithAViewBelongsToTheHostAlsoAfterTheDialog) {

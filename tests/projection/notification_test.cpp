@@ -1,7 +1,5 @@
 // What the projection dialog tells the host: an element whose appearance changed, once, when it is complete.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <deque>
 #include <functional>

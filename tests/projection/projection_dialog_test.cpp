@@ -1,10 +1,8 @@
 // The projection dialog over a small catalogue: what a text is taken for, and what comes back.
 
-#include <gtest/gtest.h>
-
+#include "projection/projection_dialog.h"
 #include "element_tree.h"
 #include "framework/value_visitors.h"
-#include "projection/projection_dialog.h"
 #include "small_catalogue.h"
 #include "support/encodings.h"
 #include "testing/case_name.h"
@@ -12,13 +10,8 @@
 namespace ox {
 namespace {
 
-struct text_case {
-    const char* name;
-    const wchar_t *given, *result;
-};
-
 #define TAIL L" +lon_wrap=45 +no_defs"
-TEST_CASES_F(Dialog, Texts, ComeBackNormalised, text_case, {"Undefined", L"", L""},
+TEST_CASES_F(Dialog, Texts, ComeBackNormalised, case_of<const wchar_t*>, {"Undefined", L"", L""},
              {"Unknown", L"+proj=nowhere +ellps=krass", L""},
              {"Geographic", L"+proj=latlong +datum=WGS84", L"+proj=longlat +datum=WGS84 +ellps=WGS84" TAIL},
              {"GeographicCustomDatum", L"+proj=longlat +ellps=krass +towgs84=1,2,3",
@@ -48,7 +41,7 @@ TEST_CASES_F(Dialog, Texts, ComeBackNormalised, text_case, {"Undefined", L"", L"
     dialog::projection projection;
     projection.set_text(c.given);
     const std::wstring result = projection.text();
-    EXPECT_EQ(result, c.result);
+    EXPECT_EQ(result, c.expected);
     projection.set_text(result);
     EXPECT_EQ(projection.text(), result) << "no fixed point";
 }

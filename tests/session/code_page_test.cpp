@@ -1,28 +1,25 @@
-#include <gtest/gtest.h>
-
 #include <clocale>
 #include <cstdio>
-#include <filesystem>
 
 #include "platform/platform.h"
 #include "testing/case_name.h"
+#include "testing/scratch_folder.h"
 
 namespace {
 
 using ox::platform::to_narrow;
 using ox::platform::to_wide;
 
-/// One locale of the process for the length of a test.
-class process_locale {
-public:
-    explicit process_locale(const char* name) : set_(std::setlocale(LC_ALL, name)) {}
+/// One locale of the process, and an empty folder, for the length of a test.
+struct process_locale {
+    explicit process_locale(const char* name) : missing(!std::setlocale(LC_ALL, name)) {}
     ~process_locale() { std::setlocale(LC_ALL, "C"); }
-    process_locale(const process_locale&) = delete;
-    process_locale& operator=(const process_locale&) = delete;
-    bool missing() const { return !set_; }
-
-private:
-    const char* set_;
+    std::FILE* open(wchar_t name) const {
+        const std::string path = folder / "";
+        return ox::platform::open_file((std::wstring(path.begin(), path.end()) + name).c_str(), "w");
+    }
+    bool missing;
+    scratch_folder folder;
 };
 
 struct lossy_case {
@@ -44,11 +41,7 @@ TEST_CASES(LossyNarrow, ReplacesWhatTheCodePageLacksAndGoesOn, lossy_case,
 }
 
 TEST_CASES(LossyWide, ReplacesWhatIsNoCharacterAndGoesOn, lossy_case,
-           {"StrayByte", 65001,
-            "a\x80"
-            "b",
-            L"a\xFFFD"
-            L"b"},
+           {"StrayByte", 65001, "a\x80!", L"a\xFFFD!"},
            {"CutShort", 65001, "\xD0\x96\xF0\x9F", L"\u0416\xFFFD"},
            {"HighInAscii", 20127, "a\xC6", L"a\xFFFD"}, {"HeldBackLetter", 1255, "\xE0", L"\u05D0"},
            {"HeldBackBeforeDamage", 1255, "\xE0\xD9", L"\u05D0\xFFFD"},
@@ -57,39 +50,25 @@ TEST_CASES(LossyWide, ReplacesWhatIsNoCharacterAndGoesOn, lossy_case,
     EXPECT_EQ(to_wide(narrow.data(), narrow.size(), page), wide);
 }
 
-struct locale_case {
-    const char* name;
-    const char* locale;
-    std::string zhe;  ///< the Cyrillic letter in the locale's character set
-};
+using locale_case = case_of<const char*, std::string>;  // expected: a Cyrillic letter in its character set
 
 TEST_CASES(SystemCodePage, IsTheLocalesAndNamesFiles, locale_case, {"C", "C", "\xD0\x96"},
            {"Utf8", "ru_RU.UTF-8", "\xD0\x96"}, {"Cp1251", "ru_RU.CP1251", "\xC6"}) {
-    const process_locale locale(c.locale);
-    if (locale.missing()) GTEST_SKIP() << "no locale " << c.locale;
-    const std::string& zhe = c.zhe;
-    EXPECT_EQ(to_narrow(L"\u0416", 1, 0), zhe);
-    EXPECT_EQ(to_wide(zhe.data(), zhe.size(), 0), L"\u0416");
-
-    const std::string folder = testing::TempDir() + "ox_" + c.name + "/";
-    std::filesystem::create_directories(folder);
-    const std::wstring path = std::wstring(folder.begin(), folder.end()) + L"\u0416";
-    std::FILE* file = ox::platform::open_file(path.c_str(), "w");
+    const process_locale locale(c.given);
+    if (locale.missing) GTEST_SKIP() << "no locale " << c.given;
+    EXPECT_EQ(to_narrow(L"\u0416", 1, 0), c.expected);
+    EXPECT_EQ(to_wide(c.expected.data(), c.expected.size(), 0), L"\u0416");
+    std::FILE* file = locale.open(L'\u0416');
     ASSERT_TRUE(file);
     std::fclose(file);
-    EXPECT_TRUE(std::filesystem::exists(folder + zhe));
-    std::filesystem::remove_all(folder);
+    EXPECT_TRUE(std::filesystem::exists(locale.folder / c.expected));
 }
 
 TEST(SystemCodePage, APathThatItCannotSpellOpensNoOtherFile) {
     const process_locale locale("ru_RU.CP1251");
-    if (locale.missing()) GTEST_SKIP() << "no locale ru_RU.CP1251";
-    const std::string folder = testing::TempDir() + "ox_spelling/";
-    std::filesystem::create_directories(folder);
-    const std::wstring path = std::wstring(folder.begin(), folder.end()) + L"\u4E00";
-    EXPECT_EQ(ox::platform::open_file(path.c_str(), "w"), nullptr);
-    EXPECT_TRUE(std::filesystem::is_empty(folder));
-    std::filesystem::remove_all(folder);
+    if (locale.missing) GTEST_SKIP() << "no locale ru_RU.CP1251";
+    EXPECT_EQ(locale.open(L'\u4E00'), nullptr);
+    EXPECT_EQ(locale.folder.files(), 0);
 }
 
 }  // namespace

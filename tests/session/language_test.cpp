@@ -1,7 +1,5 @@
 #include "session/language.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 
 #include "testing/case_name.h"
@@ -11,10 +9,7 @@ namespace {
 using oxhost::language;
 
 struct environment_case {
-    const char* name;
-    const char* all;
-    const char* messages;
-    const char* lang;
+    const char *name, *all, *messages, *lang;
     language expected;
 };
 

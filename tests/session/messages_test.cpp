@@ -1,7 +1,5 @@
 #include "session/messages.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 #include "session/console_messages.h"

@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "platform/platform.h"
+#include "testing/scratch_folder.h"
 
 namespace {
 
@@ -27,15 +28,13 @@ TEST(OwnResources, ServeBothLanguagesAndOnePicture) {
     EXPECT_FALSE(load_masked_bitmap(own_module(), 66).loaded);
 }
 
-/// Copy of the host's basic module whose string table ends with `lines`.
-fs::path basic_module_with(const char* lines) {
-    const fs::path original(OX_TEST_BASIC_MODULE), folder = fs::path(testing::TempDir()) / "ox_basic_module";
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    fs::copy(original, folder);
+/// Copies the host's basic module, whose string table then ends with `lines`, and tells its name there.
+std::string copy_basic_module(const scratch_folder& folder, const char* lines) {
+    const fs::path original(OX_TEST_BASIC_MODULE);
+    fs::copy(original, folder.path());
     fs::copy(original.parent_path() / "oxk_basic.res", folder / "oxk_basic.res");
-    std::ofstream(folder / "oxk_basic.res" / "strings.txt", std::ios::app) << lines;
-    return folder / original.filename();
+    std::ofstream(folder / "oxk_basic.res/strings.txt", std::ios::app) << lines;
+    return folder / original.filename().string();
 }
 
 TEST(BasicResources, StandBesideTheModuleThatServesTheBasicFunctions) {
@@ -43,8 +42,9 @@ TEST(BasicResources, StandBesideTheModuleThatServesTheBasicFunctions) {
     EXPECT_FALSE(load_string(nullptr, 101));
     EXPECT_FALSE(load_bitmap(nullptr, 118).loaded);
 
-    ASSERT_TRUE(dlopen(basic_module_with("98\tneutral\n50098\t\n").c_str(), RTLD_NOW | RTLD_GLOBAL))
-        << dlerror();
+    const scratch_folder folder;
+    const std::string module = copy_basic_module(folder, "98\tneutral\n50098\t\n");
+    ASSERT_TRUE(dlopen(module.c_str(), RTLD_NOW | RTLD_GLOBAL)) << dlerror();
     ASSERT_NE(basic_module(), nullptr);
     EXPECT_NE(find_host_function("oxk_basic", "ox_res_get_lng"), nullptr);
     EXPECT_EQ(find_host_function("oxk_entity", "ox_scn_begin_update"), nullptr);

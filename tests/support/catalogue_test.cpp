@@ -1,7 +1,5 @@
 #include "support/catalogue.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -131,11 +129,7 @@ TEST(CatalogueFind, EllipsoidByAxes) {
     EXPECT_EQ(ox::find_ellps_by_code(list, ""), &list[0]);
 }
 
-struct match_case {
-    const char* name;
-    ox::proj4_traits text;
-    std::uint32_t id;
-};
+using match_case = case_of<ox::proj4_traits, std::uint32_t>;  // expected: the record's id
 
 TEST_CASES(CatalogueMatch, FindsTheFirst, match_case, {"OtherProjection", {.proj = "lcc"}, 0},
            {"South", {.proj = "TMERC", .south = true}, 1},
@@ -146,8 +140,8 @@ TEST_CASES(CatalogueMatch, FindsTheFirst, match_case, {"OtherProjection", {.proj
            {"BothParallels", {.proj = "tmerc", .has_lat_1 = true, .has_lat_2 = true}, 0}) {
     const auto list = projections({"PROJ=tmerc|SOUTH=1|K_0=1", "PROJ=tmerc|LAT_0=1|LAT_0_V=30|K_0=1",
                                    "PROJ=tmerc|LAT_TS=1|LAT_1=1", "PROJ=tmerc|K_0=1|LAT_2=1"});
-    const auto* found = ox::match_proj4(list, c.text);
-    EXPECT_EQ(found ? found->id : 0, c.id);
+    const auto* found = ox::match_proj4(list, c.given);
+    EXPECT_EQ(found ? found->id : 0, c.expected);
 }
 
 TEST(CatalogueFind, ZonesAndGeographicEntries) {

@@ -1,7 +1,5 @@
 #include "support/dbf.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 #include "dbf_builder.h"
@@ -26,8 +24,7 @@ struct cell_case {
     const char* name;
     char type;
     std::uint8_t length;
-    std::string bytes;
-    std::string text;
+    std::string bytes, text;
     int as_int;
     double as_double;
     bool as_bool;

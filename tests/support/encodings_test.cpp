@@ -1,7 +1,5 @@
 #include "support/encodings.h"
 
-#include <gtest/gtest.h>
-
 #include "support/string_adapter.h"
 #include "testing/case_name.h"
 #include "testing/host_double/host_double.h"

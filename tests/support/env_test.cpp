@@ -1,7 +1,6 @@
 #include "support/env.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "recording_env.h"
 #include "support/env_console.h"

@@ -1,18 +1,10 @@
 #include "projection/proj4_params.h"
 
-#include <gtest/gtest.h>
-
 #include "numeric_locale.h"
 #include "projection/proj4_string.h"
 #include "testing/case_name.h"
 
 namespace {
-
-struct text_case {
-    const char* name;
-    const char* text;
-    const char* composed;  ///< without the tail
-};
 
 std::string composed(std::string_view text) {
     ox::Tox_proj4_params params;
@@ -22,7 +14,8 @@ std::string composed(std::string_view text) {
     return params.text();
 }
 
-TEST_CASES(Proj4Compose, NormalisesAndStaysThere, text_case, {"Empty", "", ""},
+// Composed texts without their tail.
+TEST_CASES(Proj4Compose, NormalisesAndStaysThere, case_of<const char*>, {"Empty", "", ""},
            {"NothingKnown", "+wktext +no_defs", ""},
            {"GaussKruger",
             "+no_defs +units=m +ellps=krass +k=1 +y_0=0 +x_0=7500000 +lat_0=0 +lon_0=39 +proj=tmerc",
@@ -52,9 +45,9 @@ TEST_CASES(Proj4Compose, NormalisesAndStaysThere, text_case, {"Empty", "", ""},
            {"NoSphereWithoutA", "+rf=0 +b=1 +towgs84=1", "+towgs84=1,0,0,0,0,0,0 +b=1 +rf=0"},
            {"TwelveDigits", "+lon_0=0.1 +lonc=1e-7 +lat_0=0.12345678901234 +x_0=5e5",
             "+lon_0=0.1 +lonc=1e-07 +lat_0=0.123456789012 +x_0=500000"}) {
-    std::string expected = c.composed;
+    std::string expected = c.expected;
     if (!expected.empty()) expected += " +lon_wrap=45 +no_defs";
-    EXPECT_EQ(composed(c.text), expected);
+    EXPECT_EQ(composed(c.given), expected);
     EXPECT_EQ(composed(expected), expected);
 }
 
@@ -66,9 +59,7 @@ TEST(Proj4, ACommaLocaleChangesNothing) {
 }
 
 struct equality_case {
-    const char* name;
-    const char* a;
-    const char* b;
+    const char *name, *a, *b;
     bool equal;
 };
 

@@ -1,7 +1,5 @@
 // Callbacks and views that end or change the element that calls them.
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <memory>
 

@@ -1,7 +1,5 @@
 // Controls as the host sees them: through their tables.
 
-#include <gtest/gtest.h>
-
 #include "counting_view.h"
 #include "testing/case_name.h"
 #include "toolkit/button_box.h"

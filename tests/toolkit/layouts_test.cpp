@@ -1,12 +1,10 @@
 // Layouts as the host walks them.
 
-#include <gtest/gtest.h>
-
+#include "toolkit/layouts.h"
 #include "testing/case_name.h"
 #include "toolkit/button_layout.h"
 #include "toolkit/input.h"
 #include "toolkit/labeled_element.h"
-#include "toolkit/layouts.h"
 
 namespace ox::toolkit {
 namespace {

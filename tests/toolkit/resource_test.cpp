@@ -1,7 +1,5 @@
 // Texts and pictures by id: languages, localizer, the host's own resources.
 
-#include <gtest/gtest.h>
-
 #include "framework/local_factory.h"
 #include "framework/referent.h"
 #include "framework/value_visitors.h"

@@ -1,7 +1,5 @@
 // What an element is given, the host reads; it is told once, when it stands, and not when nothing changed.
 
-#include <gtest/gtest.h>
-
 #include <type_traits>
 
 #include "counting_view.h"

@@ -2,16 +2,17 @@
 
 #include "support/encodings.h"
 
-#include <gtest/gtest.h>
 #include <windows.h>
 
-#include "code_page.h"
+#include <cstdlib>
+
 #include "testing/case_name.h"
 
 namespace {
 
 TEST(SystemCodePage, IsTheOneThatTheTestWasStartedIn) {
-    ASSERT_EQ(GetACP(), expected_code_page());
+    const char* page = std::getenv("OX_TEST_CODE_PAGE");
+    ASSERT_EQ(GetACP(), page ? static_cast<unsigned>(std::atoi(page)) : 0);
     const bool cyrillic = GetACP() == 1251;
     EXPECT_EQ(ox::system_to_wide("\xC6"), cyrillic ? L"\u0416" : L"\u00C6");
     EXPECT_EQ(ox::wide_to_system(L"\u0416"), cyrillic ? "\xC6" : "?");
@@ -30,12 +31,8 @@ TEST_CASES(Utf8, MeetsUtf16, utf8_case, {"Cyrillic", "\xD0\x96", L"\x0416"},
            {"SurrogatesSwapped", "\xEF\xBF\xBD\xEF\xBF\xBD", L"\xDF0D\xD83C", utf8_case::to_narrow},
            {"StrayByte", "a\x80!", L"a\xFFFD!", utf8_case::to_wide},
            {"InnerZero", std::string("a\0!", 3), std::wstring(L"a\0!", 3)}) {
-    if (c.direction != utf8_case::to_wide) {
-        EXPECT_EQ(ox::wide_to_utf8(c.wide), c.narrow);
-    }
-    if (c.direction != utf8_case::to_narrow) {
-        EXPECT_EQ(ox::utf8_to_wide(c.narrow), c.wide);
-    }
+    EXPECT_TRUE(c.direction == utf8_case::to_wide || ox::wide_to_utf8(c.wide) == c.narrow);
+    EXPECT_TRUE(c.direction == utf8_case::to_narrow || ox::utf8_to_wide(c.narrow) == c.wide);
 }
 
 TEST(Encodings, ASurrogatePairIsOneLetterThatACodePageLacks) {

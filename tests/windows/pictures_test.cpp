@@ -1,7 +1,5 @@
 // Bitmaps, icons and cursors, as the system reads them.
 
-#include <gtest/gtest.h>
-
 #include <numeric>
 
 #include "platform/platform.h"
@@ -58,8 +56,7 @@ bytes true_colour_planes(std::size_t width, std::initializer_list<std::size_t> m
 
 struct icon_case {
     const char* name;
-    std::uint32_t id;
-    std::uint32_t width, hot_spot_x, hot_spot_y;
+    std::uint32_t id, width, hot_spot_x, hot_spot_y;
     bytes planes;
 };
 

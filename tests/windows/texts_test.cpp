@@ -14,8 +14,7 @@ using namespace ox::platform;
 
 struct text_entry {
     std::uint32_t id;
-    const wchar_t* russian;
-    const wchar_t* english;
+    const wchar_t *russian, *english;
 };
 constexpr text_entry texts[] = {
 #define OX_TEXT(symbol, id, russian, english) {id, L"" russian, L"" english},
