@@ -13,7 +13,7 @@
 namespace ox {
 
 /// In the order of the tree.
-struct element_tree : element_visitor_impl {
+struct element_tree final : element_visitor_impl {
     struct node {
         const char* kind;
         custom_pointer element;
@@ -21,7 +21,7 @@ struct element_tree : element_visitor_impl {
     };
     std::vector<node> all;
 
-    explicit element_tree(custom_pointer grid) { grid_layout(grid); }
+    explicit element_tree(custom_pointer grid) { element_tree::grid_layout(grid); }
     explicit element_tree(grid_layout_impl& grid) : element_tree(make_pointer<grid_layout_impl>(grid)) {}
 
 #define OX_ELEMENT(words, slot, caption) \
