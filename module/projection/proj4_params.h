@@ -49,7 +49,7 @@ public:
     void clear();
 
     bool lon_wrap() const { return lon_wrap_; }
-    void set_lon_wrap(bool on) { lon_wrap_ = on; }
+    void set_lon_wrap(bool wanted) { lon_wrap_ = wanted; }
 
     bool is_sphere() const;
     bool is_latlong() const;

@@ -86,7 +86,7 @@ public:
 
     virtual std::uint32_t row_count() { return 0; }
     virtual std::uint32_t current_row() { return no_row; }
-    virtual void set_current_row(std::uint32_t row) { (void)row; }  ///< below the row count
+    virtual void set_current_row(std::uint32_t /*row*/) {}  ///< below the row count
 
 protected:
     ~outline_table() = default;

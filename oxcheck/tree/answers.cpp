@@ -44,134 +44,134 @@ private:
 
 // One per kind of element; kinds of which nothing is drawn have none.
 
-void read(reading& in, const ox::docker_impl*) { in.text<&ox::docker_impl::visit_caption>("caption"); }
+void read(reading& said, const ox::docker_impl*) { said.text<&ox::docker_impl::visit_caption>("caption"); }
 
-void read(reading& in, const ox::grid_layout_impl*) {
+void read(reading& said, const ox::grid_layout_impl*) {
     using I = ox::grid_layout_impl;
-    in.value<&I::layout_value>("layout value");
-    const std::int32_t columns = in.value<&I::column_count>("columns");
-    const std::int32_t rows = in.value<&I::row_count>("rows");
+    said.value<&I::layout_value>("layout value");
+    const std::int32_t columns = said.value<&I::column_count>("columns");
+    const std::int32_t rows = said.value<&I::row_count>("rows");
     for (std::int32_t i = 0; i < columns; ++i) {
-        in.value<&I::column_expands>("column expands", i);
-        in.value<&I::column_value>("column value", i);
-        in.value<&I::column_shown>("column shown", i);
+        said.value<&I::column_expands>("column expands", i);
+        said.value<&I::column_value>("column value", i);
+        said.value<&I::column_shown>("column shown", i);
     }
     for (std::int32_t i = 0; i < rows; ++i) {
-        in.value<&I::row_expands>("row expands", i);
-        in.value<&I::row_value>("row value", i);
-        in.value<&I::row_shown>("row shown", i);
+        said.value<&I::row_expands>("row expands", i);
+        said.value<&I::row_value>("row value", i);
+        said.value<&I::row_shown>("row shown", i);
     }
 }
 
-void read(reading& in, const ox::stack_layout_impl*) {
-    in.value<&ox::stack_layout_impl::child_count>("panels");
-    in.value<&ox::stack_layout_impl::current>("current panel");
+void read(reading& said, const ox::stack_layout_impl*) {
+    said.value<&ox::stack_layout_impl::child_count>("panels");
+    said.value<&ox::stack_layout_impl::current>("current panel");
 }
 
-void read(reading& in, const ox::groupbox_impl*) {
-    in.text<&ox::groupbox_impl::visit_caption>("caption");
-    in.text<&ox::groupbox_impl::visit_second_text>("second text");
-    in.value<&ox::groupbox_impl::flag>("flag");
+void read(reading& said, const ox::groupbox_impl*) {
+    said.text<&ox::groupbox_impl::visit_caption>("caption");
+    said.text<&ox::groupbox_impl::visit_second_text>("second text");
+    said.value<&ox::groupbox_impl::flag>("flag");
 }
 
-void read(reading& in, const ox::label_impl*) {
-    in.text<&ox::label_impl::visit_caption>("caption");
-    in.value<&ox::label_impl::enabled>("enabled");
+void read(reading& said, const ox::label_impl*) {
+    said.text<&ox::label_impl::visit_caption>("caption");
+    said.value<&ox::label_impl::enabled>("enabled");
 }
 
-void read(reading& in, const ox::button_impl*) {
+void read(reading& said, const ox::button_impl*) {
     using I = ox::button_impl;
-    in.text<&I::visit_caption>("caption");
-    in.text<&I::visit_hint>("hint");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::flag_2>("flag 2");
-    in.value<&I::flag_4>("flag 4");
+    said.text<&I::visit_caption>("caption");
+    said.text<&I::visit_hint>("hint");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::flag_2>("flag 2");
+    said.value<&I::flag_4>("flag 4");
 }
 
-void read(reading& in, const ox::input_impl*) {
+void read(reading& said, const ox::input_impl*) {
     using I = ox::input_impl;
-    in.text<&I::visit_text>("text");
-    in.text<&I::visit_caption>("caption");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::flag_2>("flag 2");
-    in.value<&I::flag_3>("flag 3");
-    in.value<&I::value>("value");
+    said.text<&I::visit_text>("text");
+    said.text<&I::visit_caption>("caption");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::flag_2>("flag 2");
+    said.value<&I::flag_3>("flag 3");
+    said.value<&I::value>("value");
 }
 
-void read(reading& in, const ox::floating_input_impl*) {
+void read(reading& said, const ox::floating_input_impl*) {
     using I = ox::floating_input_impl;
-    in.value<&I::value>("value");
-    in.value<&I::minimum>("minimum");
-    in.value<&I::maximum>("maximum");
-    in.value<&I::decimals>("decimals");
-    in.text<&I::visit_caption>("caption");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::read_only>("read-only");
+    said.value<&I::value>("value");
+    said.value<&I::minimum>("minimum");
+    said.value<&I::maximum>("maximum");
+    said.value<&I::decimals>("decimals");
+    said.text<&I::visit_caption>("caption");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::read_only>("read-only");
 }
 
-void read(reading& in, const ox::dropdown_impl*) {
+void read(reading& said, const ox::dropdown_impl*) {
     using I = ox::dropdown_impl;
-    const std::uint32_t items = in.value<&I::item_count>("items");
-    for (std::uint32_t i = 0; i < items; ++i) in.text<&I::visit_item>("item", i);
-    in.text<&I::visit_text>("text");
-    in.value<&I::value>("value");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::current>("current item");
+    const std::uint32_t items = said.value<&I::item_count>("items");
+    for (std::uint32_t i = 0; i < items; ++i) said.text<&I::visit_item>("item", i);
+    said.text<&I::visit_text>("text");
+    said.value<&I::value>("value");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::current>("current item");
 }
 
-void read(reading& in, const ox::multiline_output_impl*) {
+void read(reading& said, const ox::multiline_output_impl*) {
     using I = ox::multiline_output_impl;
-    in.text<&I::visit_text>("text");
-    in.text<&I::visit_caption>("caption");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::first_value>("first value");
-    in.value<&I::second_value>("second value");
+    said.text<&I::visit_text>("text");
+    said.text<&I::visit_caption>("caption");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::first_value>("first value");
+    said.value<&I::second_value>("second value");
 }
 
-void read(reading& in, const ox::outline_impl*) {
+void read(reading& said, const ox::outline_impl*) {
     using I = ox::outline_impl;
-    in.value<&I::column_count>("columns");
-    in.value<&I::child_count>("rows", custom_pointer{});
+    said.value<&I::column_count>("columns");
+    said.value<&I::child_count>("rows", custom_pointer{});
 }
 
-void read(reading& in, const ox::outline_checks_impl*) {
-    in.for_each_row(
-        [&in](custom_pointer item) { in.value<&ox::outline_checks_impl::state>("row checked", item); });
+void read(reading& said, const ox::outline_checks_impl*) {
+    said.for_each_row(
+        [&said](custom_pointer item) { said.value<&ox::outline_checks_impl::state>("row checked", item); });
 }
 
-void read(reading& in, const ox::string_outline_column_impl*) {
+void read(reading& said, const ox::string_outline_column_impl*) {
     using I = ox::string_outline_column_impl;
-    in.text<&I::visit_caption>("caption");
-    in.for_each_row([&in](custom_pointer item) {
-        in.text<&I::visit_cell_text>("cell", item);
-        in.text<&I::visit_cell_hint>("cell hint", item);
-        in.value<&I::highlight>("cell highlighted", item);
-        in.value<&I::cell_is_editable>("cell editable", item);
+    said.text<&I::visit_caption>("caption");
+    said.for_each_row([&said](custom_pointer item) {
+        said.text<&I::visit_cell_text>("cell", item);
+        said.text<&I::visit_cell_hint>("cell hint", item);
+        said.value<&I::highlight>("cell highlighted", item);
+        said.value<&I::cell_is_editable>("cell editable", item);
     });
 }
 
-void read(reading& in, const ox::bitmap_outline_column_impl*) {
-    in.text<&ox::bitmap_outline_column_impl::visit_caption>("caption");
+void read(reading& said, const ox::bitmap_outline_column_impl*) {
+    said.text<&ox::bitmap_outline_column_impl::visit_caption>("caption");
 }
 
-void read(reading& in, const ox::action_tool_impl*) {
+void read(reading& said, const ox::action_tool_impl*) {
     using I = ox::action_tool_impl;
-    in.text<&I::visit_caption>("caption");
-    in.text<&I::visit_hint>("hint");
-    in.text<&I::visit_long_text>("long text");
-    in.value<&I::enabled>("enabled");
-    in.value<&I::checked>("checked");
+    said.text<&I::visit_caption>("caption");
+    said.text<&I::visit_hint>("hint");
+    said.text<&I::visit_long_text>("long text");
+    said.value<&I::enabled>("enabled");
+    said.value<&I::checked>("checked");
 }
 
-void read(reading& in, const ox::button_box_impl*) {
+void read(reading& said, const ox::button_box_impl*) {
     using I = ox::button_box_impl;
-    const std::int32_t buttons = in.value<&I::count>("buttons");
+    const std::int32_t buttons = said.value<&I::count>("buttons");
     for (std::int32_t i = 0; i < buttons; ++i) {
-        in.text<&I::visit_caption>("caption", i);
-        in.value<&I::enabled>("enabled", i);
+        said.text<&I::visit_caption>("caption", i);
+        said.value<&I::enabled>("enabled", i);
     }
-    in.value<&I::default_index>("default button");
-    in.value<&I::second_index>("second button");
+    said.value<&I::default_index>("default button");
+    said.value<&I::second_index>("second button");
 }
 
 }  // namespace
