@@ -3,7 +3,7 @@
 #   layout       clang-format on every file
 #   names        no two headers share a relative name
 #   compilation  every header alone and every product source, by clang, without a warning
-#   clang-tidy   the sources changed since BASE (default: what was committed four hours before HEAD, at least one
+#   clang-tidy   the product sources changed since BASE (default: what was committed four hours before HEAD, at least one
 #                commit), as many as fit into two minutes, the most changed first; with --all every source, tests too
 source "$(dirname "${BASH_SOURCE[0]}")/step.sh"
 
@@ -38,7 +38,7 @@ every_source() {
 changed() {
     [[ -n $base ]] || base=$(git rev-list -1 --before="$(($(git log -1 --format=%ct) - 14400))" HEAD)
     [[ -n $base ]] || base=$(git hash-object -t tree /dev/null)
-    git diff --numstat --no-renames "$base" HEAD -- '*.cpp' | sort -rn | cut -f3 | grep -xF -f <(every_source) || true
+    git diff --numstat --no-renames "$base" HEAD -- {border,module,host,oxcheck}/'*.cpp' | sort -rn | cut -f3 | grep -xF -f <(every_source) || true
 }
 
 # Past the deadline nothing more begins.
