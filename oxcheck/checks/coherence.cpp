@@ -68,115 +68,117 @@ private:
     const element& judged_;
 };
 
-void judge(const judgement& the, const ox::docker_impl*) {
-    the.expect(the.has_text<&ox::docker_impl::visit_caption>(), "a caption", "none");
-    the.has_picture<&ox::docker_impl::visit_icon>();
+void judge(const judgement& judged, const ox::docker_impl*) {
+    judged.expect(judged.has_text<&ox::docker_impl::visit_caption>(), "a caption", "none");
+    judged.has_picture<&ox::docker_impl::visit_icon>();
 }
 
 /// No element stands in two cells, as they seem to where counts of several columns and rows are exchanged.
-void judge(const judgement& the, const ox::grid_layout_impl*) {
-    const std::int32_t columns = the.ask<&ox::grid_layout_impl::column_count>();
-    const std::int32_t rows = the.ask<&ox::grid_layout_impl::row_count>();
-    the.expect(columns >= 0 && rows >= 0, "numbers of columns and rows",
-               std::to_string(columns) + " and " + std::to_string(rows));
+void judge(const judgement& judged, const ox::grid_layout_impl*) {
+    const std::int32_t columns = judged.ask<&ox::grid_layout_impl::column_count>();
+    const std::int32_t rows = judged.ask<&ox::grid_layout_impl::row_count>();
+    judged.expect(columns >= 0 && rows >= 0, "numbers of columns and rows",
+                  std::to_string(columns) + " and " + std::to_string(rows));
     std::vector<custom_pointer> met;
     for (std::int32_t row = 0; row < rows; ++row)
         for (std::int32_t column = 0; column < columns; ++column)
-            for (const element& each : cell_of(the.pointer(), column, row)) {
-                the.expect(std::ranges::find(met, each.pointer) == met.end(),
-                           "each element in one of " + std::to_string(columns) + " columns and " +
-                               std::to_string(rows) + " rows",
-                           std::string(each.interface) + " in two cells");
+            for (const element& each : cell_of(judged.pointer(), column, row)) {
+                judged.expect(std::ranges::find(met, each.pointer) == met.end(),
+                              "each element in one of " + std::to_string(columns) + " columns and " +
+                                  std::to_string(rows) + " rows",
+                              std::string(each.interface) + " in two cells");
                 met.push_back(each.pointer);
             }
 }
 
-void judge(const judgement& the, const ox::stack_layout_impl*) {
-    const std::uint32_t panels = the.ask<&ox::stack_layout_impl::child_count>();
-    const std::uint32_t current = the.ask<&ox::stack_layout_impl::current>();
-    the.expect(panels == 0 || current < panels, "a current one of " + std::to_string(panels) + " panels",
-               std::to_string(current));
+void judge(const judgement& judged, const ox::stack_layout_impl*) {
+    const std::uint32_t panels = judged.ask<&ox::stack_layout_impl::child_count>();
+    const std::uint32_t current = judged.ask<&ox::stack_layout_impl::current>();
+    judged.expect(panels == 0 || current < panels, "a current one of " + std::to_string(panels) + " panels",
+                  std::to_string(current));
 }
 
-void judge(const judgement& the, const ox::groupbox_impl*) {
-    the.expect(the.has_text<&ox::groupbox_impl::visit_caption>(), "a caption", "none");
+void judge(const judgement& judged, const ox::groupbox_impl*) {
+    judged.expect(judged.has_text<&ox::groupbox_impl::visit_caption>(), "a caption", "none");
 }
 
-void judge(const judgement& the, const ox::button_impl*) {
-    const bool picture = the.has_picture<&ox::button_impl::visit_image>();
-    the.expect(picture || the.has_text<&ox::button_impl::visit_caption>(), "a caption or a picture", "none");
+void judge(const judgement& judged, const ox::button_impl*) {
+    const bool picture = judged.has_picture<&ox::button_impl::visit_image>();
+    judged.expect(picture || judged.has_text<&ox::button_impl::visit_caption>(), "a caption or a picture",
+                  "none");
 }
 
-void judge(const judgement& the, const ox::action_tool_impl*) {
-    the.expect(the.has_text<&ox::action_tool_impl::visit_caption>(), "a caption", "none");
-    the.has_picture<&ox::action_tool_impl::visit_image>();
+void judge(const judgement& judged, const ox::action_tool_impl*) {
+    judged.expect(judged.has_text<&ox::action_tool_impl::visit_caption>(), "a caption", "none");
+    judged.has_picture<&ox::action_tool_impl::visit_image>();
 }
 
-void judge(const judgement& the, const ox::dropdown_impl*) {
-    const std::uint32_t items = the.ask<&ox::dropdown_impl::item_count>();
-    const std::uint32_t current = the.ask<&ox::dropdown_impl::current>();
-    the.expect(current < items || current == ox::dropdown_impl::no_item,
-               "a current one of " + std::to_string(items) + " items, or none", std::to_string(current));
+void judge(const judgement& judged, const ox::dropdown_impl*) {
+    const std::uint32_t items = judged.ask<&ox::dropdown_impl::item_count>();
+    const std::uint32_t current = judged.ask<&ox::dropdown_impl::current>();
+    judged.expect(current < items || current == ox::dropdown_impl::no_item,
+                  "a current one of " + std::to_string(items) + " items, or none", std::to_string(current));
 }
 
-void judge(const judgement& the, const ox::floating_input_impl*) {
-    const double minimum = the.ask<&ox::floating_input_impl::minimum>();
-    const double maximum = the.ask<&ox::floating_input_impl::maximum>();
-    the.expect(minimum <= maximum, "a minimum below the maximum",
-               number(minimum) + " and " + number(maximum));
-    const double decimals = the.ask<&ox::floating_input_impl::decimals>();
-    the.expect(decimals >= 0, "a number of decimal places", number(decimals));
+void judge(const judgement& judged, const ox::floating_input_impl*) {
+    const double minimum = judged.ask<&ox::floating_input_impl::minimum>();
+    const double maximum = judged.ask<&ox::floating_input_impl::maximum>();
+    judged.expect(minimum <= maximum, "a minimum below the maximum",
+                  number(minimum) + " and " + number(maximum));
+    const double decimals = judged.ask<&ox::floating_input_impl::decimals>();
+    judged.expect(decimals >= 0, "a number of decimal places", number(decimals));
 }
 
-void judge(const judgement& the, const ox::button_box_impl*) {
-    const std::int32_t count = the.ask<&ox::button_box_impl::count>();
-    for (const std::int32_t index :
-         {the.ask<&ox::button_box_impl::default_index>(), the.ask<&ox::button_box_impl::second_index>()})
-        the.expect(index >= -1 && index < count,
-                   "one of " + std::to_string(count) + " buttons, or -1 for none", std::to_string(index));
+void judge(const judgement& judged, const ox::button_box_impl*) {
+    const std::int32_t count = judged.ask<&ox::button_box_impl::count>();
+    for (const std::int32_t index : {judged.ask<&ox::button_box_impl::default_index>(),
+                                     judged.ask<&ox::button_box_impl::second_index>()})
+        judged.expect(index >= -1 && index < count,
+                      "one of " + std::to_string(count) + " buttons, or -1 for none", std::to_string(index));
 }
 
-void judge(const judgement& the, const ox::outline_impl*) {
+void judge(const judgement& judged, const ox::outline_impl*) {
     using I = ox::outline_impl;
-    const std::uint32_t columns = the.ask<&I::column_count>();
+    const std::uint32_t columns = judged.ask<&I::column_count>();
     for (std::uint32_t i = 0; i < columns; ++i)
-        the.expect(column_of(the.pointer(), i).size() == 1,
-                   "a column in place " + std::to_string(i) + " of " + std::to_string(columns),
-                   std::to_string(column_of(the.pointer(), i).size()));
-    const auto current = current_row_of(the.pointer());
-    the.expect(!current || *current < the.rows(),
-               "a current one of " + std::to_string(the.rows()) + " rows, or none",
-               current ? std::to_string(*current) : "");
-    for (std::uint32_t row = 0; row < the.rows(); ++row) {
+        judged.expect(column_of(judged.pointer(), i).size() == 1,
+                      "a column in place " + std::to_string(i) + " of " + std::to_string(columns),
+                      std::to_string(column_of(judged.pointer(), i).size()));
+    const auto current = current_row_of(judged.pointer());
+    judged.expect(!current || *current < judged.rows(),
+                  "a current one of " + std::to_string(judged.rows()) + " rows, or none",
+                  current ? std::to_string(*current) : "");
+    for (std::uint32_t row = 0; row < judged.rows(); ++row) {
         anything item(row);
-        the.expect(
-            the.ask<&I::has_children>(item.pointer()) == (the.ask<&I::child_count>(item.pointer()) > 0),
+        judged.expect(
+            judged.ask<&I::has_children>(item.pointer()) == (judged.ask<&I::child_count>(item.pointer()) > 0),
             "rows have children where they have a number of them", "row " + std::to_string(row));
     }
 }
 
-void judge(const judgement& the, const ox::string_outline_column_impl*) {
+void judge(const judgement& judged, const ox::string_outline_column_impl*) {
     using I = ox::string_outline_column_impl;
-    for (std::uint32_t row = 0; row < the.rows(); ++row) {
+    for (std::uint32_t row = 0; row < judged.rows(); ++row) {
         anything item(row);
-        the.expect(the.has_text<&I::visit_cell_text>(item.pointer()) ||
-                       !the.has_text<&I::visit_cell_hint>(item.pointer()),
-                   "a text where there is a hint", "none in row " + std::to_string(row));
+        judged.expect(judged.has_text<&I::visit_cell_text>(item.pointer()) ||
+                          !judged.has_text<&I::visit_cell_hint>(item.pointer()),
+                      "a text where there is a hint", "none in row " + std::to_string(row));
     }
-    for (std::uint32_t a = 0; a < the.rows(); ++a)
+    for (std::uint32_t a = 0; a < judged.rows(); ++a)
         for (std::uint32_t b = 0; b <= a; ++b) {
             anything first(a), second(b);
-            the.expect(!the.ask<&I::sorts_after>(first.pointer(), second.pointer()) ||
-                           !the.ask<&I::sorts_after>(second.pointer(), first.pointer()),
-                       "one of two rows goes first",
-                       "rows " + std::to_string(b) + " and " + std::to_string(a) + " go after one another");
+            judged.expect(
+                !judged.ask<&I::sorts_after>(first.pointer(), second.pointer()) ||
+                    !judged.ask<&I::sorts_after>(second.pointer(), first.pointer()),
+                "one of two rows goes first",
+                "rows " + std::to_string(b) + " and " + std::to_string(a) + " go after one another");
         }
 }
 
-void judge(const judgement& the, const ox::bitmap_outline_column_impl*) {
-    if (the.rows() == 0) return;
+void judge(const judgement& judged, const ox::bitmap_outline_column_impl*) {
+    if (judged.rows() == 0) return;
     anything first(0);
-    the.has_picture<&ox::bitmap_outline_column_impl::visit_cell_image>(first.pointer());
+    judged.has_picture<&ox::bitmap_outline_column_impl::visit_cell_image>(first.pointer());
 }
 
 void judge_all(const std::vector<element>& dialog) {
@@ -188,33 +190,33 @@ void judge_all(const std::vector<element>& dialog) {
 }
 
 /// What was set is what is answered.
-void set_and_ask(const judgement& the, const ox::dropdown_impl*) {
+void set_and_ask(const judgement& judged, const ox::dropdown_impl*) {
     using I = ox::dropdown_impl;
-    for (std::uint32_t i = 0; i < the.ask<&I::item_count>(); ++i) {
-        the.ask<&I::select>(i);
-        the.expect(the.ask<&I::current>() == i, "item " + std::to_string(i) + " when it was chosen",
-                   std::to_string(the.ask<&I::current>()));
+    for (std::uint32_t i = 0; i < judged.ask<&I::item_count>(); ++i) {
+        judged.ask<&I::select>(i);
+        judged.expect(judged.ask<&I::current>() == i, "item " + std::to_string(i) + " when it was chosen",
+                      std::to_string(judged.ask<&I::current>()));
     }
 }
 
-void set_and_ask(const judgement& the, const ox::floating_input_impl*) {
+void set_and_ask(const judgement& judged, const ox::floating_input_impl*) {
     using I = ox::floating_input_impl;
-    const double before = the.ask<&I::value>();
+    const double before = judged.ask<&I::value>();
     for (const double value : {0.5, before})
-        the.expect(
-            the.ask<&I::read_only>() || !the.ask<&I::set_value>(value) || the.ask<&I::value>() == value,
-            number(value) + " when it was entered", number(the.ask<&I::value>()));
+        judged.expect(judged.ask<&I::read_only>() || !judged.ask<&I::set_value>(value) ||
+                          judged.ask<&I::value>() == value,
+                      number(value) + " when it was entered", number(judged.ask<&I::value>()));
 }
 
-void set_and_ask(const judgement& the, const ox::outline_checks_impl*) {
+void set_and_ask(const judgement& judged, const ox::outline_checks_impl*) {
     using I = ox::outline_checks_impl;
-    for (std::uint32_t row = 0; row < the.rows(); ++row) {
+    for (std::uint32_t row = 0; row < judged.rows(); ++row) {
         anything item(row);
-        const bool before = the.ask<&I::state>(item.pointer());
+        const bool before = judged.ask<&I::state>(item.pointer());
         for (const bool state : {!before, before}) {
-            the.ask<&I::set_state>(item.pointer(), state);
-            the.expect(the.ask<&I::state>(item.pointer()) == state, "the state that was set last",
-                       "the other");
+            judged.ask<&I::set_state>(item.pointer(), state);
+            judged.expect(judged.ask<&I::state>(item.pointer()) == state, "the state that was set last",
+                          "the other");
         }
     }
 }
