@@ -91,7 +91,7 @@ outcome judge(const check& what, const subject& given) {
                                                     ", slot " + std::to_string(fault.slot) + ": " +
                                                     fault.what);
     };
-    const outcome found = verdict_of(what, given);
+    outcome found = verdict_of(what, given);
     const auto complaints = script::complaints();
     if (found.result == verdict::failed || complaints.empty()) return found;
     return {verdict::failed, "no null where none belongs, and no exception at the border",

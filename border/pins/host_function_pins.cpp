@@ -18,9 +18,11 @@
 #include <stddef.h>
 #include <stdint.h>
 
+// NOLINTBEGIN(readability-redundant-declaration): the second declaration is the point
 namespace in_c {
 #include "border/c/ox_host_functions.h"
 }
+// NOLINTEND(readability-redundant-declaration)
 
 #define OX_PIN_FUNCTION(name) static_assert(std::is_same_v<decltype(in_c::name), decltype(::name)>)
 
