@@ -55,8 +55,8 @@ tidy() {
     [[ -n $files ]] || { echo "clang-tidy: no source changed" >$build/tidy.log; return 0; }
     export build clean deadline=$(($(date +%s) + ${all:+7000} + 120))
     clean=$(mktemp)
-    xargs -P "$(nproc)" -n 1 bash -c 'tidy_one "$0"' <<<"$files" || code=1
-    echo "clang-tidy: $(wc -l <"$clean") of $(wc -l <<<"$files") sources looked at and clean" >$build/tidy.log
+    xargs -P "$(nproc)" -n 1 bash -c 'tidy_one "$0"' <<<"$files" | tee $build/tidy.log || code=1
+    echo "clang-tidy: $(wc -l <"$clean") of $(wc -l <<<"$files") sources looked at and clean" >>$build/tidy.log
     rm -f "$clean"
     # Of a change they are told; of everything they are a failure.
     [[ -n $all ]] || code=0
