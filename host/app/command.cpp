@@ -5,11 +5,11 @@
 #include <iostream>
 
 #include "base/files.h"
+#include "base/language.h"
 #include "project/project.h"
 #include "run/plug_in_texts.h"
 #include "run/request.h"
 #include "session/border.h"
-#include "session/language.h"
 #include "shell/bundle.h"
 
 namespace oxhost::app {

@@ -2,11 +2,11 @@
 #include <iostream>
 
 #include "app/command.h"
+#include "base/language.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/description.h"
 #include "geodesy/warnings.h"
 #include "run/request.h"
-#include "session/language.h"
 
 namespace oxhost::app {
 

@@ -3,10 +3,10 @@
 
 #include "app/command.h"
 #include "base/files.h"
+#include "base/language.h"
 #include "exchange/exchange.h"
 #include "geodesy/crs_import.h"
 #include "run/request.h"
-#include "session/language.h"
 
 namespace oxhost::app {
 

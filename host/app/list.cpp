@@ -4,10 +4,10 @@
 #include <nlohmann/json.hpp>
 
 #include "app/command.h"
+#include "base/language.h"
 #include "base/text.h"
 #include "run/report.h"
 #include "run/request.h"
-#include "session/language.h"
 
 namespace oxhost::app {
 

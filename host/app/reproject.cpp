@@ -3,9 +3,9 @@
 
 #include "app/command.h"
 #include "base/files.h"
+#include "base/language.h"
 #include "run/report.h"
 #include "session/console_messages.h"
-#include "session/language.h"
 
 namespace oxhost::app {
 

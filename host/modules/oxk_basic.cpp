@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string>
 
+#include "base/language.h"
 #include "session/border.h"
-#include "session/language.h"
 #include "session/messages.h"
 
 using namespace oxhost;

@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "base/files.h"
+#include "base/language.h"
 #include "base/memo.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
@@ -17,7 +18,6 @@
 #include "geodesy/transformation.h"
 #include "session/border.h"
 #include "session/journal.h"
-#include "session/language.h"
 
 using namespace oxhost;
 

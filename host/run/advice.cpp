@@ -4,8 +4,8 @@
 #include <map>
 #include <set>
 
+#include "base/language.h"
 #include "geodesy/warnings.h"
-#include "session/language.h"
 
 namespace oxhost::run {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "base/language.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "session/language.h"
 
 namespace oxhost::run {
 

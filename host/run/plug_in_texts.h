@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "session/language.h"
+#include "base/language.h"
 
 namespace oxhost::run::plug_in_text {
 

@@ -3,11 +3,11 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
+#include "base/language.h"
 #include "geodesy/description.h"
 #include "geodesy/measure.h"
 #include "geodesy/transformation.h"
 #include "map/section_map.h"
-#include "session/language.h"
 
 namespace oxhost::run {
 

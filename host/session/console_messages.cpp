@@ -9,7 +9,7 @@
 #include <ostream>
 #include <string_view>
 
-#include "session/language.h"
+#include "base/language.h"
 
 namespace oxhost {
 

@@ -6,8 +6,8 @@
 #include <fstream>
 #include <map>
 
+#include "base/language.h"
 #include "base/numbers.h"
-#include "session/language.h"
 
 namespace oxhost::shell {
 

@@ -3,10 +3,10 @@
 #include <clocale>
 #include <cmath>
 
+#include "base/language.h"
 #include "border/host_api/oxk_proj4_d2.h"
 #include "session/border.h"
 #include "session/journal.h"
-#include "session/language.h"
 #include "texts.h"
 
 namespace oxhost {

@@ -3,10 +3,10 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include "base/language.h"
 #include "headless/scripted_user.h"
 #include "oxhost_run.h"
 #include "project/project.h"
-#include "session/language.h"
 #include "shell/bundle_host.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include <sstream>
 
+#include "base/language.h"
 #include "session/console_messages.h"
-#include "session/language.h"
 #include "testing/case_name.h"
 
 namespace {

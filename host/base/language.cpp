@@ -1,4 +1,4 @@
-#include "session/language.h"
+#include "base/language.h"
 
 #include <cstdlib>
 
