@@ -25,12 +25,12 @@ void transform(new_scene& copy, const scene& original, const run::target& goal) 
         throw failure(exit_code::scene_failed,
                       original.owner->path().string() + ": " + name_of(original) + ": " + reason);
     };
-    if (!copy.line || copy.line->empty()) return;
+    if (!copy.line || copy.line->xy.empty()) return;
     if (copy.proj4.empty()) fail("has no projection to transform from");
     try {
         const auto way = transformation::between(copy.proj4, goal.proj4);
         if (way->is_needed())
-            if (const auto failed = way->apply(*copy.line))
+            if (const auto failed = way->apply(copy.line->xy))
                 fail("vertex " + std::to_string(failed->vertex) + ": " + failed->reason);
     } catch (const std::invalid_argument& refused) {
         fail(refused.what());

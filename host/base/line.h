@@ -1,11 +1,12 @@
 #pragma once
-/// Lines of the plane: `polyline` is the host side of the opaque handle "pv".
+/// Lines: `section_line` is the host side of the opaque handle "pv".
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace oxhost {
@@ -20,6 +21,18 @@ struct point {
 using polyline = std::vector<point>;
 
 inline bool is_finite(const point& place) { return std::isfinite(place.x) && std::isfinite(place.y); }
+
+/// A line with what its vertices carry beside their place: heights and measures, which no projection touches.
+struct section_line {
+    polyline xy;
+    std::vector<double> z;  ///< one per vertex, or none at all
+    std::vector<double> m;  ///< likewise
+
+    section_line() = default;
+    section_line(polyline places, std::vector<double> heights = {}, std::vector<double> measures = {})
+        : xy(std::move(places)), z(std::move(heights)), m(std::move(measures)) {}
+    friend bool operator==(const section_line&, const section_line&) = default;
+};
 
 /// Smallest rectangle around points; empty (minimum above maximum) at first. Non-finite points are left out.
 struct extent {

@@ -25,7 +25,7 @@ public:
         json geometry;
         if (scene.line) {
             json coordinates = json::array();
-            for (const point& p : *scene.line) coordinates.push_back({p.x, p.y});
+            for (const point& p : scene.line->xy) coordinates.push_back({p.x, p.y});
             geometry = {{"type", "LineString"}, {"coordinates", std::move(coordinates)}};
         }
         const json feature{
@@ -93,9 +93,9 @@ public:
         feature->SetField("proj4", scene.proj4.c_str());
         if (scene.line) {
             auto line = std::make_unique<OGRLineString>();
-            line->setNumPoints(static_cast<int>(scene.line->size()), FALSE);
-            for (std::size_t i = 0; i < scene.line->size(); ++i)
-                line->setPoint(static_cast<int>(i), (*scene.line)[i].x, (*scene.line)[i].y);
+            line->setNumPoints(static_cast<int>(scene.line->xy.size()), FALSE);
+            for (std::size_t i = 0; i < scene.line->xy.size(); ++i)
+                line->setPoint(static_cast<int>(i), scene.line->xy[i].x, scene.line->xy[i].y);
             feature->SetGeometryDirectly(line.release());
         }
         if (layer_->CreateFeature(feature.get()) != OGRERR_NONE || reports_.failed())

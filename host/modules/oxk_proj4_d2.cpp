@@ -1,5 +1,5 @@
 /// The C functions of the projection module: texts come in wide and go out through adapters, lines are
-/// `polyline`s behind "pv", and what cannot be answered through the function is left in the host's core.
+/// `section_line`s behind "pv", and what cannot be answered through the function is left in the host's core.
 
 #include "border/host_api/oxk_proj4_d2.h"
 
@@ -177,7 +177,7 @@ bool ox_rpj_d2_apply_pv(void* rpj, void* pv) {
     return at_border([&] {
         const auto* reprojection = static_cast<reprojector*>(rpj);
         if (!reprojection || !reprojection->work || !pv) return false;
-        const auto failure = reprojection->work->apply(*static_cast<polyline*>(pv));
+        const auto failure = reprojection->work->apply(static_cast<section_line*>(pv)->xy);
         if (failure) {
             if (auto* update = journal::instance().current()) update->transform_failure = *failure;
         }

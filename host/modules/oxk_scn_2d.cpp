@@ -41,9 +41,9 @@ void ox_prf_data_set_prj4string(void* data, const wchar_t* proj4) {
 }
 
 void* ox_prf_data_get_pv_ptr(void* data) {
-    return at_border([=] { return const_cast<polyline*>(lend_line(as_scene(data))); });
+    return at_border([=] { return const_cast<section_line*>(lend_line(as_scene(data))); });
 }
 
 void ox_prf_data_set_pv(void* data, void* pv) {
-    at_border([=] { store_line(as_scene(data), static_cast<const polyline*>(pv)); });
+    at_border([=] { store_line(as_scene(data), static_cast<const section_line*>(pv)); });
 }

@@ -67,7 +67,7 @@ void change_scene(scene* changed, Change&& change) {
 }
 
 /// Null leaves the line as it is.
-inline void store_line(scene* changed, const polyline* line) {
+inline void store_line(scene* changed, const section_line* line) {
     if (line) change_scene(changed, [=](project& owner, scene& one) { owner.set_line(one, *line); });
 }
 
@@ -78,8 +78,8 @@ inline void store_text(scene* changed, const wchar_t* text) {
 
 /// The scene's line; null when it has none. A line that cannot be read is null as well, and then the scene's
 /// open bracket is given up: an empty line must not replace one that is there.
-inline const polyline* lend_line(scene* asked) {
-    const polyline* line = nullptr;
+inline const section_line* lend_line(scene* asked) {
+    const section_line* line = nullptr;
     if (asked) detail::guarded(*asked, [&] { line = asked->owner->lend_line(*asked); });
     return line;
 }

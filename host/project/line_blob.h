@@ -1,6 +1,7 @@
 #pragma once
 /// Lines as GeoPackage geometry blobs: a header ("GP", flags, srs_id, optional envelope) and a
-/// well-known-binary LineString. Both byte orders are read, little-endian is written. 2D only.
+/// well-known-binary LineString, with Z and M where the line has them. Both byte orders are read,
+/// little-endian is written.
 
 #include <cstddef>
 #include <cstdint>
@@ -24,16 +25,18 @@ inline constexpr std::int32_t undefined_cartesian_srs = -1;
 struct line_summary {
     std::size_t vertices = 0;
     extent bounds;
+    bool heights = false;
+    bool measures = false;
 };
 
-line_summary summarize(std::span<const point> line);
+line_summary summarize(const section_line& line);
 
 /// Replaces the content of `blob`. A line without vertices becomes LINESTRING EMPTY.
-void encode_line(std::span<const point> line, std::vector<std::byte>& blob);
+void encode_line(const section_line& line, std::vector<std::byte>& blob);
 
 /// Replaces the content of `line`. Throws blob_error, and then leaves `line` alone: damaged blobs, other
-/// geometry types, lines with heights or measures.
-void decode_line(std::span<const std::byte> blob, polyline& line);
+/// geometry types.
+void decode_line(std::span<const std::byte> blob, section_line& line);
 
 /// The same checks without keeping the vertices.
 line_summary summarize_blob(std::span<const std::byte> blob);

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "project/addition.h"
+#include "project/columns.h"
 #include "project/schema.h"
 #include "project/store.h"
 
@@ -109,8 +111,8 @@ scene* project::at(std::size_t index) { return index < size() ? &store_->scenes[
 
 // ---- reading
 
-polyline project::read_line(const scene& subject) {
-    polyline line;
+section_line project::read_line(const scene& subject) {
+    section_line line;
     try {
         if (store_->read_blob(subject)) decode_line(store_->buffer, line);
     } catch (const sqlite::error& e) {
@@ -121,7 +123,24 @@ polyline project::read_line(const scene& subject) {
     return line;
 }
 
-const polyline* project::lend_line(scene& subject) {
+const std::vector<field>& project::fields() const { return store_->fields; }
+
+std::vector<field_value> project::read_values(const scene& subject) {
+    std::vector<field_value> values;
+    if (fields().empty()) return values;
+    try {
+        if (!store_->db.get()) refuse(path(), "is closed");
+        const sqlite::statement& row = store_->select_attributes(subject);
+        for (std::size_t i = 0; i < fields().size(); ++i)
+            values.push_back(read_value(row, static_cast<int>(i)));
+        store_->read_attributes.reset();
+    } catch (const sqlite::error& e) {
+        refuse(subject, "attributes cannot be read: " + explain(e));
+    }
+    return values;
+}
+
+const section_line* project::lend_line(scene& subject) {
     if (store_->open.subject == &subject && store_->open.line) return &*store_->open.line;
     if (!subject.line) return nullptr;
     auto found = store_->lent.find(&subject);
@@ -149,7 +168,7 @@ void project::begin_update(scene& subject) {
     open.depth = 1;
 }
 
-void project::set_line(scene& subject, const polyline& line) {
+void project::set_line(scene& subject, const section_line& line) {
     if (store_->open.subject != &subject)
         store_->write(subject, &line, nullptr);
     else if (!store_->open.abandoned)
@@ -183,33 +202,9 @@ void project::abandon_update(scene& subject) {
 project::written project::last_written() const { return store_->last; }
 
 void project::append(std::span<const new_scene> added) {
-    std::vector<scene> rows;
-    rows.reserve(added.size());
-    try {
-        store_->prepare_writing();
-        sqlite::transaction change(store_->db);
-        sqlite::statement insert(
-            store_->db, "INSERT INTO scenes (caption, profile, proj4, geom) VALUES (?1, ?2, ?3, ?4)");
-        for (const new_scene& made : added) {
-            std::optional<std::vector<std::byte>> blob;
-            if (made.line) encode_line(*made.line, blob.emplace());
-            insert.bind(1, made.caption).bind(2, std::int64_t{made.profile}).bind(3, made.proj4);
-            bind_line(insert, 4, blob);
-            insert.run();
-            rows.push_back({.owner = this,
-                            .index = size() + rows.size(),
-                            .row = sqlite3_last_insert_rowid(store_->db.get()),
-                            .caption = made.caption,
-                            .profile = made.profile,
-                            .proj4 = made.proj4,
-                            .line = made.line ? std::optional(summarize(*made.line)) : std::nullopt});
-        }
-        change.commit();
-    } catch (const sqlite::error& e) {
-        refuse(path(), "scenes cannot be added: " + explain(e));
-    }
-    store_->changed = true;
-    for (scene& row : rows) store_->scenes.push_back(std::move(row));
+    addition scenes(*this);
+    for (const new_scene& each : added) scenes.add(each);
+    scenes.commit();
 }
 
 scene_state project::state(std::size_t index) {

@@ -2,7 +2,8 @@
 /// A project: 2D scenes with their section lines, stored in one GeoPackage file.
 ///
 /// The table `scenes` has a row per scene: fid (order of the scenes), geom (LineString or NULL), caption,
-/// profile, proj4. GIS programs open it as a layer of undefined cartesian coordinates.
+/// profile, proj4; further columns are attributes. GIS programs open it as a layer of undefined cartesian
+/// coordinates.
 ///
 /// Kill-safety and speed. The first change switches the file to SQLite's write-ahead log with
 /// synchronous=NORMAL, and every update bracket is one statement, hence one transaction of its own: a
@@ -29,6 +30,7 @@
 #include <vector>
 
 #include "base/line.h"
+#include "project/fields.h"
 #include "project/line_blob.h"
 
 namespace oxhost {
@@ -59,7 +61,9 @@ struct new_scene {
     std::string caption;
     bool profile = true;
     std::string proj4;
-    std::optional<polyline> line;
+    std::optional<section_line> line;
+    std::vector<field_value> values =
+        {};  ///< for the fields that the addition was told; missing ones are null
 };
 
 /// A scene as it was at one moment, to be put back by project::restore.
@@ -104,10 +108,13 @@ public:
     scene* at(std::size_t index);  ///< null when out of range
 
     /// The stored line, decoded now; empty when there is none.
-    polyline read_line(const scene& subject);
+    section_line read_line(const scene& subject);
+    /// Columns beyond the store's own, and a scene's values in their order.
+    const std::vector<field>& fields() const;
+    std::vector<field_value> read_values(const scene& subject);
     /// The current line, pending changes included; null when there is none. Lent until the scene's line
     /// changes or the bracket that reads it ends.
-    const polyline* lend_line(scene& subject);
+    const section_line* lend_line(scene& subject);
     /// The current projection text, pending changes included.
     const std::string& proj4(const scene& subject) const;
 
@@ -115,7 +122,7 @@ public:
     /// each reaches it at once. Brackets of one scene nest. Beginning another scene ends the open bracket
     /// first. When the file refuses (disk full, read-only), end_update throws; memory then equals the file.
     void begin_update(scene& subject);
-    void set_line(scene& subject, const polyline& line);
+    void set_line(scene& subject, const section_line& line);
     void set_proj4(scene& subject, std::string text);
     void end_update(scene& subject);
     scene* updated_scene() const;  ///< whose bracket is open; null when none is
@@ -136,6 +143,7 @@ public:
     void restore(std::span<const scene_state> states);
 
 private:
+    friend class addition;
     struct store;
     explicit project(std::unique_ptr<store> opened);
     std::unique_ptr<store> store_;

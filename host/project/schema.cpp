@@ -99,6 +99,12 @@ void register_envelope_functions(sqlite::connection& db) {
     add("ST_MaxY", answer_envelope<envelope_value::max_y>);
 }
 
+void allow_dimensions(sqlite::connection& db, bool heights, bool measures) {
+    constexpr auto where = " WHERE table_name='scenes' AND column_name='geom'";  // 2: may have them
+    if (heights) db.run((std::string("UPDATE gpkg_geometry_columns SET z=2") + where).c_str());
+    if (measures) db.run((std::string("UPDATE gpkg_geometry_columns SET m=2") + where).c_str());
+}
+
 void refresh_layer(sqlite::connection& db, const extent& bounds) {
     sqlite::statement refresh(db,
                               "UPDATE gpkg_contents SET last_change=strftime('%Y-%m-%dT%H:%M:%fZ','now'),"

@@ -18,6 +18,9 @@ std::string reason_to_refuse(sqlite::connection& db);
 /// ST_IsEmpty, ST_MinX, ...: without them no line could be changed.
 void register_envelope_functions(sqlite::connection& db);
 
+/// From now on lines may have heights, or measures; what was allowed before stays so.
+void allow_dimensions(sqlite::connection& db, bool heights, bool measures);
+
 /// Records the layer's extent and the time of its last change.
 void refresh_layer(sqlite::connection& db, const extent& bounds);
 

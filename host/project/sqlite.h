@@ -61,8 +61,10 @@ public:
     void reset();
 
     std::int64_t integer(int column) const { return sqlite3_column_int64(statement_.get(), column); }
+    double real(int column) const { return sqlite3_column_double(statement_.get(), column); }
     std::string text(int column) const;
-    bool is_null(int column) const { return sqlite3_column_type(statement_.get(), column) == SQLITE_NULL; }
+    int type(int column) const { return sqlite3_column_type(statement_.get(), column); }
+    bool is_null(int column) const { return type(column) == SQLITE_NULL; }
     std::span<const std::byte> blob(int column) const;  ///< until the next step
 
 private:

@@ -1,5 +1,7 @@
 #include "project/store.h"
 
+#include "base/text.h"
+#include "project/columns.h"
 #include "project/schema.h"
 
 namespace oxhost {
@@ -45,6 +47,7 @@ void refuse(const scene& concerned, const std::string& reason) {
 
 void project::store::load(project& owner) {
     register_envelope_functions(db);
+    fields = read_fields(db);
     sqlite::statement rows(db, "SELECT fid, caption, profile, proj4, geom FROM scenes ORDER BY fid");
     while (rows.step()) {
         scene& row = scenes.emplace_back(scene{.owner = &owner,
@@ -96,7 +99,19 @@ bool project::store::read_blob(const scene& subject) {
     return found;
 }
 
-void project::store::write(scene& subject, const polyline* line, const std::string* text) {
+/// The scene's row of attributes, until read_attributes is reset.
+const sqlite::statement& project::store::select_attributes(const scene& subject) {
+    if (attributes_selected != fields.size()) {
+        std::string columns;
+        for (const field& each : fields) append_item(columns, as_identifier(each.name));
+        read_attributes = {db, "SELECT " + columns + " FROM scenes WHERE fid=?1"};
+        attributes_selected = fields.size();
+    }
+    read_attributes.bind(1, subject.row).step();
+    return read_attributes;
+}
+
+void project::store::write(scene& subject, const section_line* line, const std::string* text) {
     last = {};
     if (!line && !text) return;
     try {
@@ -132,7 +147,9 @@ void project::store::close() {
                 if (each.line) bounds.add(each.line->bounds);
             refresh_layer(db, bounds);
         }
-        for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};
+        for (sqlite::statement* each :
+             {&read_geometry, &read_attributes, &write_line, &write_text, &write_both})
+            *each = {};
         if (logging && db.ask("PRAGMA journal_mode=DELETE") != "delete")
             failure = "its changes stay in the log beside it";
         else if (logging)  // a reader of the log that a killed process left has left this one
@@ -140,7 +157,8 @@ void project::store::close() {
     } catch (const sqlite::error& e) {
         failure = "its changes stay in the log beside it: " + explain(e);
     }
-    for (sqlite::statement* each : {&read_geometry, &write_line, &write_text, &write_both}) *each = {};
+    for (sqlite::statement* each : {&read_geometry, &read_attributes, &write_line, &write_text, &write_both})
+        *each = {};
     db.close();
     if (!failure.empty()) refuse(file, failure);
 }

@@ -19,7 +19,7 @@ struct bracket {
     scene* subject = nullptr;
     int depth = 0;
     bool abandoned = false;
-    std::optional<polyline> line;
+    std::optional<section_line> line;
     std::optional<std::string> text;
 };
 
@@ -31,11 +31,14 @@ struct project::store {
     bool changed = false;
     sqlite::connection db;
     std::deque<scene> scenes;
+    std::vector<field> fields;
     bracket open;
     written last;
-    std::unordered_map<const scene*, polyline> lent;
+    std::unordered_map<const scene*, section_line> lent;
     std::vector<std::byte> buffer;
     sqlite::statement read_geometry;
+    sqlite::statement read_attributes;
+    std::size_t attributes_selected = 0;  ///< how many fields `read_attributes` has
     sqlite::statement write_line;
     sqlite::statement write_text;
     sqlite::statement write_both;
@@ -44,7 +47,8 @@ struct project::store {
     void lock();
     void prepare_writing();
     bool read_blob(const scene& subject);
-    void write(scene& subject, const polyline* line, const std::string* text);
+    const sqlite::statement& select_attributes(const scene& subject);
+    void write(scene& subject, const section_line* line, const std::string* text);
     void close();
 };
 

@@ -43,7 +43,7 @@ std::vector<std::string> advise(project& opened, const std::vector<scene_result>
         if (source.empty()) continue;
         for (const std::size_t i : outermost(scenes, members)) {
             const auto lines =
-                warnings_for(source, target, opened.read_line(*scenes[i].subject), current_language());
+                warnings_for(source, target, opened.read_line(*scenes[i].subject).xy, current_language());
             for (const std::string& line : lines)
                 if (known.insert(source + '\n' + without_numbers(line)).second)
                     found.emplace(i, name_of(*scenes[i].subject) + ": " + line);

@@ -75,7 +75,7 @@ std::vector<polyline> reprojection::kept_lines() {
     std::vector<polyline> lines;
     if (!order_.keep_lines) return lines;
     lines.reserve(scenes_.size());
-    for (const scene* each : scenes_) lines.push_back(project_->read_line(*each));
+    for (const scene* each : scenes_) lines.push_back(project_->read_line(*each).xy);
     return lines;
 }
 

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t scene_count = 40;
 
 /// Line and text of one version of a scene name the same number.
-polyline line_of(int version) { return polyline(300, point{double(version), -double(version)}); }
+section_line line_of(int version) { return polyline(300, point{double(version), -double(version)}); }
 
 /// Says on `started` that the first scene is changed.
 [[noreturn]] void update_until_killed(const fs::path& file, int first, int started) {

@@ -58,13 +58,13 @@ TEST_CASES(LineBlob, ReadsOrNames, blob_case, {"LittleEndian", {}, ""}, {"BigEnd
            {"ByteOrder", {.order = 7}, "geometry has an unknown byte order"},
            {"Point", {.type = 1}, "geometry is a Point, not a LineString"},
            {"MultiZ", {.type = 1005}, "geometry is a MultiLineString, not a LineString"},
-           {"Heights", {.type = 1002}, "geometry has heights or measures (lines are 2D)"},
-           {"EwkbHeights", {.type = 0x80000002}, "geometry has heights or measures (lines are 2D)"},
+           {"UnknownDimensions", {.type = 4002}, "geometry is a geometry of type 4002, not a LineString"},
+           {"HeightsWithoutRoom", {.type = 1002}, "geometry is cut short"},
            {"CountTooLarge", {.count = 0xFFFFFFFF}, "geometry is cut short"},
            {"CountTooSmall", {.count = 1}, "geometry has bytes after its end"},
            {"Trailing", {.extra = 1}, "geometry has bytes after its end"}) {
     const blob bytes = c.given.build();
-    polyline line{{7, 7}};
+    section_line line(polyline{{7, 7}});
     try {
         decode_line(bytes, line);
         EXPECT_STREQ(c.expected, "");
@@ -74,6 +74,27 @@ TEST_CASES(LineBlob, ReadsOrNames, blob_case, {"LittleEndian", {}, ""}, {"BigEnd
         EXPECT_STREQ(c.expected, e.what());
         EXPECT_EQ(line, (polyline{{7, 7}})) << "a refused blob must not change the line";
         EXPECT_THROW(summarize_blob(bytes), blob_error);
+    }
+}
+
+/// Two doubles a vertex as heights and measures: the four numbers above are one vertex.
+struct dimension_case {
+    const char* name;
+    std::uint32_t type;
+};
+
+TEST_CASES(LineBlobDimensions, ComeAndGo, dimension_case, {"Iso", 3002}, {"Ewkb", 0xC0000002}) {
+    section_line line;
+    decode_line(builder{.type = c.type, .count = 1}.build(), line);
+    EXPECT_EQ(line, section_line({{1.5, -2.5}}, {1e300}, {5e-324}));
+    for (const section_line& one : {line, section_line(line.xy, line.z), section_line(line.xy, {}, line.m)}) {
+        blob encoded;
+        section_line again;
+        encode_line(one, encoded);
+        decode_line(encoded, again);
+        EXPECT_EQ(again, one);
+        const line_summary told = summarize_blob(encoded);
+        EXPECT_TRUE(told.heights == !one.z.empty() && told.measures == !one.m.empty() && told.vertices == 1);
     }
 }
 

@@ -68,9 +68,9 @@ TEST_F(HostModules, TolerateNullsAndWrongIndexes) {
     EXPECT_EQ(journal::instance().updates().size(), 0U);
     ox_prf_data_set_prj4string(opened_->at(0), nullptr);
     EXPECT_EQ(opened_->at(0)->proj4, "") << "a null text is an empty one";
-    polyline filled{{1, 2}};
+    section_line filled(polyline{{1, 2}});
     ox_pv_d2_assign(&filled, nullptr);
-    EXPECT_TRUE(filled.empty());
+    EXPECT_TRUE(filled.xy.empty());
 }
 
 TEST_F(HostModules, BracketCopiesTheLineAndIsRecorded) {
@@ -78,9 +78,9 @@ TEST_F(HostModules, BracketCopiesTheLineAndIsRecorded) {
     ox_scn_begin_update(data);
     void* copy = ox_pv_d2_create();
     ox_pv_d2_assign(copy, ox_prf_data_get_pv_ptr(data));
-    static_cast<polyline*>(copy)->front() = {-1, -2};
+    static_cast<section_line*>(copy)->xy.front() = {-1, -2};
     ox_prf_data_set_pv(data, copy);
-    static_cast<polyline*>(copy)->clear();
+    static_cast<section_line*>(copy)->xy.clear();
     ox_prf_data_set_prj4string(data, L"новая");
     ox_pv_d2_destroy(copy);
     ox_scn_end_update(data);

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "project/addition.h"
 #include "project/sqlite.h"
 #include "testing/case_name.h"
 #include "workspace.h"
@@ -105,10 +106,10 @@ TEST_F(Store, BracketIsSeenInsideAndStoredAtItsEnd) {
     scene& first = *opened->at(0);
     opened->begin_update(first);
     opened->begin_update(first);
-    opened->set_line(first, {{9, 9}, {8, 8}, {7, 7}});
+    opened->set_line(first, polyline{{9, 9}, {8, 8}, {7, 7}});
     opened->set_proj4(first, "new");
     EXPECT_EQ(opened->proj4(first), "new");
-    EXPECT_EQ(opened->lend_line(first)->size(), 3U);
+    EXPECT_EQ(opened->lend_line(first)->xy.size(), 3U);
     opened->end_update(first);
     EXPECT_EQ(first.proj4, sample_scenes[0].proj4) << "the inner end of nested brackets must not store";
     EXPECT_EQ(opened->read_line(first), *sample_scenes[0].line);
@@ -146,7 +147,7 @@ TEST_F(Store, FullDiskLeavesTheSceneAsItWas) {
 TEST_F(Store, RestorePutsBackToTheByte) {
     auto opened = open_project();
     const std::vector<scene_state> before{opened->state(0), opened->state(2)};
-    opened->set_line(*opened->at(0), {{9, 9}});
+    opened->set_line(*opened->at(0), polyline{{9, 9}});
     opened->set_proj4(*opened->at(2), "new");
     opened->restore(before);
     EXPECT_EQ(opened->state(0).geometry, before[0].geometry);
@@ -158,7 +159,7 @@ TEST_F(Store, RestorePutsBackToTheByte) {
 TEST_F(Store, SpatialIndexOfAnotherProgramIsKeptUp) {
     output_of("ogrinfo " + file_ + " -sql \"SELECT CreateSpatialIndex('scenes', 'geom')\"");
     auto opened = open_project();
-    opened->set_line(*opened->at(0), {{70, 80}, {71, 82}});
+    opened->set_line(*opened->at(0), polyline{{70, 80}, {71, 82}});
     opened->close();
     sqlite::connection db(file_, SQLITE_OPEN_READONLY);
     EXPECT_EQ(db.ask("SELECT minx || ' ' || maxy FROM rtree_scenes_geom WHERE id=1"), "70.0 82.0");
@@ -167,6 +168,33 @@ TEST_F(Store, SpatialIndexOfAnotherProgramIsKeptUp) {
 TEST_F(Store, DiscardRemovesANewProject) {
     project::create(folder_ / "new.gpkg")->discard();
     EXPECT_EQ(folder_.files(), 1);
+}
+
+TEST_F(Store, KeepsAttributesHeightsAndMeasures) {
+    const std::vector<field> fields{{"depth", field_type::real}, {"Caption", field_type::text}};
+    const std::vector<field> others{{"DEPTH", field_type::text}, {"depth", field_type::real}};
+    const new_scene well{"W", true, "", section_line({{1, 2}, {3, 4}}, {5, 6}, {7, 8}), {1.5, "говорит"}};
+    {
+        const auto opened = open_project();
+        addition added(*opened);
+        EXPECT_EQ(added.take_fields(fields), (std::vector<std::string>{"depth", "Caption_1"}));
+        added.add(well);
+        EXPECT_EQ(added.take_fields(others), (std::vector<std::string>{"DEPTH_1", "depth"}));
+        added.add({"V", true, "", {}, {"deep", std::monostate{}}});
+        added.commit();
+    }
+    { addition dropped(*open_project()); }
+    const auto opened = open_project(open_mode::read_only);
+    ASSERT_EQ(opened->size(), 6U);
+    EXPECT_EQ(opened->fields().size(), 3U);
+    EXPECT_EQ(opened->read_line(*opened->at(4)), *well.line);
+    const field_value none;
+    EXPECT_EQ(opened->read_values(*opened->at(4)), (std::vector<field_value>{1.5, "говорит", none}));
+    EXPECT_EQ(opened->read_values(*opened->at(5)), (std::vector<field_value>{none, none, "deep"}));
+    EXPECT_EQ(opened->read_values(*opened->at(0)), (std::vector<field_value>{none, none, none}));
+    const std::string seen = output_of("ogrinfo -ro -al -q " + file_ + " -where \"caption='W'\"");
+    EXPECT_NE(seen.find("LINESTRING ZM (1 2 5 7,3 4 6 8)"), std::string::npos) << seen;
+    EXPECT_NE(seen.find("Caption_1 (String) = говорит"), std::string::npos) << seen;
 }
 
 }  // namespace

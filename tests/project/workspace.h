@@ -48,7 +48,7 @@ inline void expect_scenes(project& of, std::span<const new_scene> expected) {
         EXPECT_EQ(std::tie(found.caption, found.profile, found.proj4),
                   std::tie(expected[i].caption, expected[i].profile, expected[i].proj4));
         EXPECT_EQ(found.line.has_value(), expected[i].line.has_value());
-        EXPECT_EQ(of.read_line(found), expected[i].line.value_or(polyline{}));
+        EXPECT_EQ(of.read_line(found), expected[i].line.value_or(section_line{}));
     }
 }
 
