@@ -1,3 +1,5 @@
+#include <signal.h>
+
 #include <CLI/CLI.hpp>
 #include <iostream>
 
@@ -6,6 +8,7 @@
 #include "base/language.h"
 #include "run/report.h"
 #include "session/console_messages.h"
+#include "session/interruption.h"
 
 namespace oxhost::app {
 
@@ -30,10 +33,20 @@ void check_outputs(const reproject_options& options) {
         if (out.empty()) continue;
         check_writable(out);
         if (fs::equivalent(out, options.wanted.project, ignored))
-            throw failure(exit_code::nothing_done, out.string() + ": is the project itself");
+            throw failure(
+                exit_code::nothing_done,
+                out.string() + std::string(in_language(": это сам проект", ": is the project itself")));
     }
     if (!options.map.empty() && options.map == options.report)
-        throw failure(exit_code::nothing_done, options.map.string() + ": cannot be both report and map");
+        throw failure(exit_code::nothing_done,
+                      options.map.string() + std::string(in_language(": не может быть и отчётом, и картой",
+                                                                     ": cannot be both report and map")));
+}
+
+/// Names the signal, and that it ended the work.
+std::string interruption_line() {
+    const std::string name = interrupting_signal() == SIGINT ? "SIGINT" : "SIGTERM";
+    return "oxhost: " + std::string(in_language("прервано сигналом " + name, "interrupted by " + name));
 }
 
 exit_code code_of(const std::vector<run::scene_result>& results) {
@@ -45,6 +58,7 @@ exit_code code_of(const std::vector<run::scene_result>& results) {
 void tell(const reproject_options& options, const std::vector<run::scene_result>& results) {
     for (const run::scene_result& each : results)
         if (each.failure) std::cerr << failure_line(each) << '\n';
+    if (interrupting_signal()) std::cerr << interruption_line() << '\n';
     if (options.console.quiet) return;
     std::cout << summary(results);
     if (std::ranges::any_of(results, &run::scene_result::rolled_back))
@@ -57,6 +71,8 @@ void tell(const reproject_options& options, const std::vector<run::scene_result>
 }
 
 exit_code reproject(const reproject_options& options) {
+    ignore_closed_pipes();
+    const interruption_watch watch;
     run::reprojection work(options.wanted);
     check_outputs(options);
     if (!options.console.quiet)
@@ -110,13 +126,34 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("FILE.json");
     command->add_option("--map", options->map, "A picture of the lines before and after")
         ->type_name("FILE.svg");
+    command
+        ->add_option("--return-tolerance", wanted.rules.return_tolerance,
+                     std::string(in_language("На сколько метров вершина может не вернуться на своё место "
+                                             "(по умолчанию 0.01)",
+                                             "Metres by which a vertex may miss its place on the way back "
+                                             "(default 0.01)")))
+        ->type_name("METRES")
+        ->check(CLI::NonNegativeNumber);
+    command->add_flag("--one-way", wanted.rules.one_way,
+                      std::string(in_language("Разрешить целевую проекцию, из которой нет обратного пути",
+                                              "Allow a target from which there is no way back")));
+    command
+        ->add_option("--densify", wanted.rules.densify,
+                     std::string(in_language("Добавить вершины там, где отрезок прогнулся бы больше",
+                                             "Add vertices where a segment would bow by more")))
+        ->type_name("METRES")
+        ->check(CLI::PositiveNumber);
     command->add_flag("--quiet", options->console.quiet, "Say nothing but errors and questions");
     add_language(*command);
     add_bundle(*command, wanted.bundle);
     command->callback([options, &chosen] {
         if (!options->all) options->wanted.scenes = options->scenes;
         options->wanted.keep_lines = !options->report.empty() || !options->map.empty();
-        chosen = [options] { return reproject(*options); };
+        chosen = [options] {
+            const exit_code code = reproject(*options);
+            end_by_signal();
+            return code;
+        };
     });
 }
 

@@ -5,6 +5,7 @@
 #include "headless/dialog_hands.h"
 #include "run/outcome.h"
 #include "run/request.h"
+#include "session/interruption.h"
 #include "shell/bundle_host.h"
 
 namespace oxhost::app {
@@ -53,6 +54,7 @@ exit_code run_on(project* opened, shell::bundle_host& host, const utilities_opti
 }
 
 exit_code utilities(const utilities_options& options) {
+    ignore_closed_pipes();
     std::unique_ptr<project> opened;
     if (!options.project.empty())
         opened = run::open_project(options.project,

@@ -90,6 +90,15 @@ std::optional<double> geodesic_length(const polyline& line, std::string_view pro
     return metres;
 }
 
+std::optional<double> planar_length(const polyline& line, std::string_view proj4) {
+    const crs& system = *own_ellipsoid_of(proj4).system;
+    if (system.geographic) return {};
+    double metres = 0;
+    for (std::size_t i = 1; i < line.size(); ++i)
+        metres += std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y) * system.metres_per_unit;
+    return metres;
+}
+
 std::optional<polyline> to_wgs84(const polyline& line, std::string_view proj4) {
     polyline result = line;
     if (transformation::between(proj4, wgs84_text)->apply(result)) return {};

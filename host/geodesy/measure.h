@@ -13,6 +13,9 @@ namespace oxhost {
 /// Nothing when a vertex cannot be placed on the ellipsoid.
 std::optional<double> geodesic_length(const polyline& line, std::string_view proj4);
 
+/// Length in the plane of the projection. Nothing for longitude/latitude, which has no such plane.
+std::optional<double> planar_length(const polyline& line, std::string_view proj4);
+
 /// The line as WGS 84 longitude, latitude in degrees, each text's own datum shift counted; a text without
 /// datum is taken as WGS 84. Nothing when a vertex cannot be transformed.
 std::optional<polyline> to_wgs84(const polyline& line, std::string_view proj4);

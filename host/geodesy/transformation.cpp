@@ -4,6 +4,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "base/language.h"
 #include "base/memo.h"
 #include "geodesy/published_shifts.h"
 
@@ -11,15 +12,29 @@ namespace oxhost {
 namespace {
 
 [[noreturn]] void refuse(const crs& system, std::string_view side) {
-    throw std::invalid_argument(std::string(side) + " projection \"" + system.text + "\": " + system.error);
+    throw std::invalid_argument(std::string(side) + " \"" + system.text + "\": " + system.error);
 }
 
-void transform(PJ* pipeline, polyline& line) {
+void transform(PJ* pipeline, polyline& line, PJ_DIRECTION direction = PJ_FWD) {
     if (line.empty()) return;
     constexpr std::size_t stride = sizeof(point);
     proj_errno_reset(pipeline);
-    proj_trans_generic(pipeline, PJ_FWD, &line[0].x, stride, line.size(), &line[0].y, stride, line.size(),
+    proj_trans_generic(pipeline, direction, &line[0].x, stride, line.size(), &line[0].y, stride, line.size(),
                        nullptr, 0, 0, nullptr, 0, 0);
+}
+
+pj_ptr unbound(const PJ* system) {
+    return pj_ptr(proj_get_type(system) == PJ_TYPE_BOUND_CRS ? proj_get_source_crs(proj_context(), system)
+                                                             : proj_clone(proj_context(), system));
+}
+
+/// Asked of the projection alone: a pair with several operations does not tell.
+bool judge_inverse(const crs& system) {
+    if (!system.valid() || system.geographic) return true;
+    const pj_ptr base = geographic_base(system.object.get());
+    const pj_ptr way(proj_create_crs_to_crs_from_pj(proj_context(), base.get(),
+                                                    unbound(system.object.get()).get(), nullptr, nullptr));
+    return !way || proj_pj_info(way.get()).has_inverse != 0;
 }
 
 /// Within 180 degrees of the centre; a longitude on the seam stays.
@@ -71,16 +86,19 @@ std::shared_ptr<const transformation> transformation::prepare(std::string_view s
     const std::shared_ptr<transformation> made(new transformation);
     made->source_ = crs_of(source);
     made->target_ = crs_of(target);
-    if (!made->source_->valid()) refuse(*made->source_, "source");
-    if (!made->target_->valid()) refuse(*made->target_, "target");
+    if (!made->source_->valid())
+        refuse(*made->source_, in_language("исходная проекция", "source projection"));
+    if (!made->target_->valid()) refuse(*made->target_, in_language("целевая проекция", "target projection"));
     made->needed_ = !equal(source, target);
+    made->has_return_ = has_inverse(target);
     take_proj_complaint();
     const pj_ptr pipeline(proj_create_crs_to_crs_from_pj(proj_context(), made->source_->object.get(),
                                                          made->target_->object.get(), nullptr, nullptr));
     if (pipeline) made->pipeline_.reset(proj_normalize_for_visualization(proj_context(), pipeline.get()));
     if (!made->pipeline_) {
-        throw std::invalid_argument("no transformation from \"" + made->source_->text + "\" to \"" +
-                                    made->target_->text + "\": " + take_proj_complaint());
+        const std::string pair = '"' + made->source_->text + "\" → \"" + made->target_->text + '"';
+        throw std::invalid_argument(std::string(in_language("нет пути ", "no transformation ")) + pair +
+                                    " (" + take_proj_complaint() + ')');
     }
     return made;
 }
@@ -104,21 +122,37 @@ std::optional<vertex_failure> transformation::apply(polyline& line) const {
 
 std::optional<vertex_failure> transformation::first_failure(const polyline& before,
                                                             const polyline& after) const {
+    const auto failure_at = [&](std::size_t i, std::string_view reason) {
+        return vertex_failure{i, before[i], std::string(reason)};
+    };
     for (std::size_t i = 0; i < before.size(); ++i) {
-        if (!is_finite(before[i])) return vertex_failure{i, before[i], "coordinates are not finite numbers"};
+        if (!is_finite(before[i]))
+            return failure_at(i, in_language("координаты не являются конечными числами",
+                                             "coordinates are not finite numbers"));
         if (source_->geographic && std::abs(before[i].y) > 90) {
-            return vertex_failure{i, before[i], "latitude is beyond 90 degrees"};
+            return failure_at(i, in_language("широта больше 90 градусов", "latitude is beyond 90 degrees"));
         }
         if (is_finite(after[i])) continue;
         polyline alone{before[i]};
         take_proj_complaint();
         transform(pipeline_.get(), alone);
         const int code = proj_errno(pipeline_.get());
-        std::string reason = code ? proj_context_errno_string(proj_context(), code) : "";
-        if (reason.empty()) reason = "no finite coordinates in the target projection";
-        return vertex_failure{i, before[i], reason};
+        std::string reason(in_language("нет места в целевой проекции", "no place in the target projection"));
+        const char* of_proj = code ? proj_context_errno_string(proj_context(), code) : nullptr;
+        if (of_proj && *of_proj) reason.append(" (").append(of_proj).append(")");
+        return failure_at(i, reason);
     }
     return {};
+}
+
+void transformation::bring_back(polyline& line) const { transform(pipeline_.get(), line, PJ_INV); }
+
+point transformation::there_and_back(point place) const {
+    const PJ_COORD there = proj_trans(pipeline_.get(), PJ_FWD, proj_coord(place.x, place.y, 0, 0));
+    const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));
+    const PJ_COORD back =
+        proj_trans(used ? used.get() : pipeline_.get(), PJ_INV, proj_coord(there.xy.x, there.xy.y, 0, 0));
+    return {back.xy.x, back.xy.y};
 }
 
 operation_info transformation::operation() const {
@@ -137,6 +171,11 @@ operation_info transformation::operation() const {
         operation.accuracy = *source.accuracy + *target.accuracy;
     }
     return operation;
+}
+
+bool has_inverse(std::string_view proj4) {
+    static memo<bool> judged(256);
+    return judged.of(proj4, [&] { return judge_inverse(*crs_of(proj4)); });
 }
 
 }  // namespace oxhost

@@ -32,6 +32,14 @@ public:
     /// In place, all or nothing: when a vertex cannot be transformed or comes out non-finite, the line
     /// is as it was and the answer names the first such vertex.
     std::optional<vertex_failure> apply(polyline& line) const;
+    /// Is there a way back at all?
+    bool has_return() const { return has_return_; }
+    /// Backwards, in place: vertices that cannot be brought back become infinite.
+    void bring_back(polyline& line) const;
+    /// Where the operation that serves the place brings it back to.
+    point there_and_back(point place) const;
+    const crs& source() const { return *source_; }
+    const crs& target() const { return *target_; }
     /// Where more than one operation serves the pair (NAD27), the one last used.
     operation_info operation() const;
 
@@ -43,7 +51,11 @@ private:
     std::shared_ptr<const crs> source_;
     std::shared_ptr<const crs> target_;
     bool needed_ = true;
+    bool has_return_ = true;
     pj_ptr pipeline_;
 };
+
+/// Can PROJ find the longitude and latitude of places in the projection? Also true for a text it refuses.
+bool has_inverse(std::string_view proj4);
 
 }  // namespace oxhost

@@ -65,22 +65,14 @@ public:
                             "нет перехода к датуму WGS 84: ошибка здесь около " + size + " м"));
     }
 
-    void about_distortion(const crs& source, const crs& target, const polyline& line,
-                          std::vector<std::string>& lines) const {
+    void about_drawing(const crs& source, const crs& target, const polyline& line,
+                       std::vector<std::string>& lines) const {
         polyline drawn = line;
-        if (const auto failure = transformation::between(source.text, target.text)->apply(drawn)) {
-            const std::string vertex = std::to_string(failure->vertex);
-            lines.push_back(say("the line cannot be drawn there: vertex " + vertex + ": " + failure->reason,
-                                "линию нельзя в ней изобразить: вершина " + vertex + ": " + failure->reason));
-            return;
-        }
-        const auto distortion = length_distortion(drawn, target.text);
-        if (!distortion || *distortion <= 0.01) return;
-        const double share =
-            *distortion < 0.1 ? std::round(1000 * *distortion) / 10 : std::round(100 * *distortion);
-        lines.push_back(
-            say("the line lies outside its sensible area: lengths are off by " + number_text(share) + " %",
-                "линия лежит вне её разумной области: длины искажены на " + number_text(share) + " %"));
+        const auto failure = transformation::between(source.text, target.text)->apply(drawn);
+        if (!failure) return;
+        const std::string vertex = std::to_string(failure->vertex);
+        lines.push_back(say("the line cannot be drawn there: vertex " + vertex + ": " + failure->reason,
+                            "линию нельзя в ней изобразить: вершина " + vertex + ": " + failure->reason));
     }
 
 private:
@@ -168,7 +160,7 @@ std::vector<std::string> warnings_for(std::string_view source, std::string_view 
             if (!no_shift_needed) advice.about_missing_shift(system, near, own);
             advice.about_rotations(system, own);
         }
-        if (is_target && from->valid() && to->valid()) advice.about_distortion(*from, *to, line, own);
+        if (is_target && from->valid() && to->valid()) advice.about_drawing(*from, *to, line, own);
         for (const auto& each : own) lines.push_back(side + ": " + each);
     };
     add_side(*from, advice.say("source", "исходная проекция"), false);

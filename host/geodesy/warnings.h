@@ -20,7 +20,7 @@ std::vector<std::string> warnings_for(std::string_view proj4, language wanted,
 
 /// About a reprojection of `line`, given in `source`: the warnings of both texts at the line's place,
 /// each named as source or target and said once; a missing shift only where the other side has another
-/// datum; lengths that the target distorts by more than one percent.
+/// datum; a line that has no place in the target.
 std::vector<std::string> warnings_for(std::string_view source, std::string_view target, const polyline& line,
                                       language wanted);
 

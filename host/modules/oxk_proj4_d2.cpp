@@ -15,8 +15,10 @@
 #include "geodesy/description.h"
 #include "geodesy/favourites.h"
 #include "geodesy/projection_files.h"
+#include "geodesy/reprojector.h"
 #include "geodesy/transformation.h"
 #include "session/border.h"
+#include "session/interruption.h"
 #include "session/journal.h"
 
 using namespace oxhost;
@@ -27,6 +29,12 @@ namespace {
 struct reprojector {
     std::shared_ptr<const transformation> work;
 };
+
+/// A scene whose update began after the wish to end, or, outside an update, any.
+bool is_declined() {
+    const auto* update = journal::instance().current();
+    return update ? update->declined : interrupting_signal() != 0;
+}
 
 favourite_list* as_list(void* list) { return static_cast<favourite_list*>(list); }
 
@@ -156,14 +164,17 @@ void ox_rpj_d2_destroy(void* rpj) { std::unique_ptr<reprojector> owner(static_ca
 
 bool ox_rpj_d2_init_w(void* rpj, const wchar_t* source, const wchar_t* target) {
     return at_border([&] {
-        if (!rpj) return false;
+        if (!rpj || is_declined()) return false;
         auto& work = static_cast<reprojector*>(rpj)->work;
         work.reset();
+        std::optional<std::string> refusal = refusal_of_target(to_utf8(target));
         try {
-            work = transformation::between(to_utf8(source), to_utf8(target));
+            if (!refusal) work = transformation::between(to_utf8(source), to_utf8(target));
         } catch (const std::invalid_argument& refused) {
-            if (auto* update = journal::instance().current()) update->setup_failure = refused.what();
+            refusal = refused.what();
         }
+        auto* update = journal::instance().current();
+        if (update && refusal) update->setup_failure = std::move(refusal);
         return work != nullptr;
     });
 }
@@ -177,10 +188,12 @@ bool ox_rpj_d2_apply_pv(void* rpj, void* pv) {
     return at_border([&] {
         const auto* reprojection = static_cast<reprojector*>(rpj);
         if (!reprojection || !reprojection->work || !pv) return false;
-        const auto failure = reprojection->work->apply(static_cast<section_line*>(pv)->xy);
-        if (failure) {
-            if (auto* update = journal::instance().current()) update->transform_failure = *failure;
+        const auto done = reproject(*static_cast<section_line*>(pv), *reprojection->work);
+        if (auto* update = journal::instance().current()) {
+            update->transform_failure = done.failure;
+            update->return_error = done.return_error;
+            update->added_vertices = done.added_vertices;
         }
-        return !failure;
+        return !done.failure;
     });
 }

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "project/project.h"
+#include "session/interruption.h"
 #include "session/journal.h"
 
 namespace oxhost {
@@ -47,14 +48,20 @@ inline void end_scene_update(scene* changed) {
     if (!owner.updated_scene()) journal::instance().end();
 }
 
-/// Ends the open update of another scene first.
+/// Ends the open update of another scene first. Once the run is to end, a scene that is begun is declined:
+/// its bracket takes no changes.
 inline void begin_scene_update(scene* changed) {
     if (!changed) return;
     project& owner = *changed->owner;
     scene* updated = owner.updated_scene();
     for (; updated && updated != changed; updated = owner.updated_scene()) end_scene_update(updated);
     if (!updated) journal::instance().begin(changed->index);
-    detail::guarded(*changed, [&] { owner.begin_update(*changed); });
+    scene_update* const record = journal::instance().current();
+    if (record && !updated) record->declined = interrupting_signal() != 0;
+    detail::guarded(*changed, [&] {
+        owner.begin_update(*changed);
+        if (record && record->declined) owner.abandon_update(*changed);
+    });
 }
 
 /// Outside a bracket the change is a bracket of its own.

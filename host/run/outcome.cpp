@@ -43,7 +43,8 @@ std::string_view name_of(outcome told) { return words[static_cast<std::size_t>(t
 std::vector<scene_result> before_run(const std::vector<scene*>& scenes) {
     std::vector<scene_result> results;
     results.reserve(scenes.size());
-    for (scene* each : scenes) results.push_back({.subject = each, .source = each->proj4, .failure = {}});
+    for (scene* each : scenes)
+        results.push_back({.subject = each, .source = each->proj4, .failure = {}, .return_error = {}});
     return results;
 }
 
@@ -51,11 +52,14 @@ std::size_t read_journal(std::vector<scene_result>& results, const std::string& 
     const auto& updates = journal::instance().updates();
     for (; seen < updates.size(); ++seen) {
         const scene_update& update = updates[seen];
+        if (update.declined) continue;
         const auto found = std::ranges::lower_bound(results, update.scene, {},
                                                     [](const scene_result& r) { return r.subject->index; });
         if (found == results.end() || found->subject->index != update.scene) continue;
         found->failure = failure_of(update);
         found->came_to = found->failure ? outcome::failed : outcome_of(update, found->source, target);
+        found->return_error = update.return_error;
+        found->added_vertices = update.line_stored ? update.added_vertices : 0;
     }
     return seen;
 }
@@ -70,8 +74,8 @@ std::string failure_line(const scene_result& result) {
     const auto& [reason, vertex] = *result.failure;
     if (!vertex)
         return reason.starts_with(file) ? reason : place + reason;  // the project's own refusals name it
-    return place + "vertex " + std::to_string(vertex->vertex) + " (" + number_text(vertex->at.x) + ", " +
-           number_text(vertex->at.y) + "): " + vertex->reason;
+    return place + std::string(in_language("вершина ", "vertex ")) + std::to_string(vertex->vertex) + " (" +
+           number_text(vertex->at.x) + ", " + number_text(vertex->at.y) + "): " + vertex->reason;
 }
 
 std::string summary(const std::vector<scene_result>& results) {
@@ -83,6 +87,10 @@ std::string summary(const std::vector<scene_result>& results) {
         append_item(line, in_language(std::string(words[i].russian) + ": " + number,
                                       number + ' ' + std::string(words[i].english)));
     }
+    std::size_t added = 0;
+    for (const scene_result& each : results) added += each.rolled_back ? 0 : each.added_vertices;
+    const std::string number = std::to_string(added);
+    if (added) line += in_language("; добавлено вершин: " + number, "; " + number + " vertices added");
     return line;
 }
 

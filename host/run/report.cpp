@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "geodesy/measure.h"
+#include "geodesy/reprojector.h"
 #include "geodesy/transformation.h"
 
 namespace oxhost::run {
@@ -29,9 +30,31 @@ auto measured(Measure&& measure) -> decltype(measure()) {
     }
 }
 
-std::optional<double> length(const polyline& line, const std::string& proj4) {
-    if (proj4.empty()) return std::nullopt;
-    return measured([&] { return geodesic_length(line, proj4); });
+using line_measure = std::optional<double> (*)(const polyline& line, std::string_view proj4);
+
+json measured(line_measure measure, const polyline& line, const std::string& proj4) {
+    if (proj4.empty()) return {};
+    return or_null(measured([&] { return measure(line, proj4); }));
+}
+
+json percent(const json& share) { return share.is_null() ? share : json(100 * share.get<double>()); }
+
+/// What only a line that was reprojected has.
+struct judgement {
+    std::optional<line_shift> shift;
+    std::optional<double> deviation;
+};
+
+judgement judge(const scene_result& result, const record& told, const polyline& before,
+                const polyline& after) {
+    judgement found;
+    if (result.came_to != outcome::reprojected) return found;
+    const auto way = transformation::between(result.source, told.goal.proj4);
+    section_line line(before);
+    if (result.added_vertices) densify(line, *way, told.wanted.rules.densify);
+    found.shift = shift_between(line.xy, result.source, after, told.goal.proj4);
+    found.deviation = segment_deviation(line.xy, *way);
+    return found;
 }
 
 /// What PROJ did to the line, told by doing it again: where several operations serve a pair of
@@ -65,22 +88,28 @@ json scene_json(const record& told, std::size_t i) {
     const polyline& before = told.before[i];
     const polyline& after = told.after[i];
     const bool reprojected = result.came_to == outcome::reprojected;
-    std::optional<line_shift> shift;
-    if (reprojected)
-        shift = measured([&] { return shift_between(before, result.source, after, subject.proj4); });
-    return {{"index", subject.index},
-            {"caption", subject.caption},
-            {"source_proj4", result.source},
-            {"target_proj4", told.goal.proj4},
-            {"outcome", name_of(result.came_to)},
-            {"rolled_back", result.rolled_back},
-            {"vertices", before.size()},
-            {"length_before_m", or_null(length(before, result.source))},
-            {"length_after_m", or_null(length(after, subject.proj4))},
-            {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
-            {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
-            {"operation", reprojected ? operation_of(result, before, told.goal.proj4) : json()},
-            {"failure", failure_of(result)}};
+    const auto [shift, deviation] = judge(result, told, before, after);
+    const bool plane = reprojected && !crs_of(subject.proj4)->geographic;
+    return {
+        {"index", subject.index},
+        {"caption", subject.caption},
+        {"source_proj4", result.source},
+        {"target_proj4", told.goal.proj4},
+        {"outcome", name_of(result.came_to)},
+        {"rolled_back", result.rolled_back},
+        {"vertices", before.size()},
+        {"added_vertices", result.added_vertices},
+        {"length_before_m", measured(geodesic_length, before, result.source)},
+        {"length_after_m", measured(geodesic_length, after, subject.proj4)},
+        {"planar_length_before_m", measured(planar_length, before, result.source)},
+        {"planar_length_after_m", measured(planar_length, after, subject.proj4)},
+        {"scale_error_percent", plane ? percent(measured(length_distortion, after, subject.proj4)) : json()},
+        {"segment_deviation_m", or_null(deviation)},
+        {"return_error_m", or_null(result.return_error)},
+        {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
+        {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
+        {"operation", reprojected ? operation_of(result, before, told.goal.proj4) : json()},
+        {"failure", failure_of(result)}};
 }
 
 std::string_view name_of(on_error policy) {

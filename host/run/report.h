@@ -17,7 +17,9 @@ std::string json_text(const nlohmann::ordered_json& value);
 ///     project, target {given, proj4}, dry_run, on_error, proj {library, database}, warnings [text],
 ///     counts {outcome: scenes},
 ///     scenes [{index, caption, source_proj4, target_proj4, outcome, rolled_back, vertices,
-///              length_before_m, length_after_m, largest_ground_shift_m, largest_datum_shift_m,
+///              added_vertices, length_before_m, length_after_m, planar_length_before_m,
+///              planar_length_after_m, scale_error_percent, segment_deviation_m, return_error_m,
+///              largest_ground_shift_m, largest_datum_shift_m,
 ///              operation {name, definition, accuracy_m, source_shift, target_shift},
 ///              failure {reason, vertex, x, y}}]
 ///
@@ -25,6 +27,13 @@ std::string json_text(const nlohmann::ordered_json& value);
 /// far a vertex moved on the ground, each text's datum counted: about 0 when all is well. The datum shift is
 /// the change of longitude and latitude as numbers: the error of whoever forgets the datum. `vertex` counts
 /// from 0, `x` and `y` are its coordinates in the source projection.
+///
+/// Planar lengths are those in the plane of the projection. The scale error is the largest relative
+/// difference between a segment's length in the plane of the result and along the ellipsoid. The segment
+/// deviation is how far a straight segment of the source bows from the straight one that the result has for
+/// it. The return error is how far from its place a vertex lies when the result is brought back: the largest
+/// of those that were tested, of a failed scene too. `vertices` are those before the run, `added_vertices`
+/// come on top.
 std::string report_text(const record& told);
 
 /// The lines before and after as an SVG picture, in the user's language.

@@ -1,5 +1,7 @@
 #include "run/reprojection.h"
 
+#include "base/language.h"
+#include "session/interruption.h"
 #include "session/messages.h"
 
 namespace oxhost::run {
@@ -9,8 +11,27 @@ namespace {
 std::vector<scene*> scenes_of(const order& wanted, project& opened) {
     auto scenes = wanted.scenes ? select_scenes(opened, *wanted.scenes) : listed_scenes(opened);
     if (scenes.empty())
-        throw failure(trouble::refused, wanted.project.string() + ": no profile scenes to reproject");
+        throw failure(
+            trouble::refused,
+            wanted.project.string() + std::string(in_language(": нет сцен разрезов для перепроецирования",
+                                                              ": no profile scenes to reproject")));
     return scenes;
+}
+
+/// A target that the rules allow.
+target goal_of(const order& wanted) {
+    target read = read_target(wanted.target);
+    use_rules(wanted.rules);
+    if (const auto refusal = read.none() ? std::nullopt : refusal_of_target(read.proj4))
+        throw failure(trouble::refused, *refusal);
+    return read;
+}
+
+std::vector<std::string> warnings_of(project& opened, const std::vector<scene_result>& scenes,
+                                     const std::string& target) {
+    auto said = advise(opened, scenes, target);
+    if (auto lengths = advise_on_lengths(opened, scenes, target)) said.push_back(std::move(*lengths));
+    return said;
 }
 
 bool has_changed(const scene_result& result) {
@@ -30,12 +51,12 @@ std::vector<scene*> not_attempted(const std::vector<scene_result>& results) {
 
 reprojection::reprojection(order wanted)
     : order_(std::move(wanted)),
-      goal_(read_target(order_.target)),
+      goal_(goal_of(order_)),
       project_(open_project(order_.project, order_.dry_run ? open_mode::scratch : open_mode::read_write)),
       scenes_(scenes_of(order_, *project_)),
       utility_(order_.bundle),
       results_(before_run(scenes_)),
-      warnings_(advise(*project_, results_, goal_.proj4)) {}
+      warnings_(warnings_of(*project_, results_, goal_.proj4)) {}
 
 void reprojection::perform() {
     before_ = kept_lines();
@@ -47,15 +68,21 @@ void reprojection::perform() {
     const auto after_apply = [&]() -> std::vector<scene*> {
         const std::size_t before = seen;
         seen = read_journal(results_, goal_.proj4, seen);
-        const bool went_on = seen > before;  // else a further try would end the same way
+        const bool went_on =
+            seen > before && !interrupting_signal();  // else a further try would end the same
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};
     };
     const served_project serving(project_.get());
     utility_.run(goal_, listed_scenes(*project_), scenes_, after_apply);
 }
 
+bool reprojection::interrupted() const {
+    return interrupting_signal() != 0 && count(results_, outcome::not_attempted) > 0;
+}
+
 void reprojection::roll_back_if_failed() {
-    if (order_.policy != on_error::rollback || count(results_, outcome::failed) == 0) return;
+    const bool failed = count(results_, outcome::failed) > 0 || interrupted();
+    if (order_.policy != on_error::rollback || !failed) return;
     std::vector<scene_state> changed;
     for (std::size_t i = 0; i < results_.size(); ++i)
         if (has_changed(results_[i])) changed.push_back(states_[i]);

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "geodesy/reprojector.h"
 #include "run/outcome.h"
 #include "run/plug_in.h"
 #include "run/request.h"
@@ -29,7 +30,8 @@ struct order {
     std::optional<std::vector<std::string>> scenes;  ///< by index or caption; nothing for all that are listed
     bool dry_run = false;                            ///< do it all, but leave the project as it is
     on_error policy = on_error::stop;
-    bool keep_lines = false;  ///< the record is to have the lines before and after
+    bool keep_lines = false;   ///< the record is to have the lines before and after
+    reprojection_rules rules;  ///< for every line of this process from then on
     std::filesystem::path bundle;
 };
 
@@ -50,6 +52,11 @@ struct record {
 std::vector<std::string> advise(project& opened, const std::vector<scene_result>& scenes,
                                 const std::string& target);
 
+/// "211 of 222 lines are stretched by more than 1 %; the worst, ..., by 143 %": what the target does to
+/// lengths, over all scenes that are to be reprojected. Nothing when no line suffers as much.
+std::optional<std::string> advise_on_lengths(project& opened, const std::vector<scene_result>& scenes,
+                                             const std::string& target);
+
 class reprojection {
 public:
     /// Nothing is changed yet. Throws failure, project_error, bundle_error.
@@ -57,9 +64,11 @@ public:
 
     /// As `advise` gives them.
     const std::vector<std::string>& warnings() const { return warnings_; }
-    /// Drives the plug-in until the order's policy is content.
+    /// Drives the plug-in until the order's policy is content, or a signal ends it after the scene in hand.
     void perform();
-    /// Puts back what was changed, if a scene failed and the policy wants that.
+    /// Did a signal keep the run from scenes? They are "not attempted".
+    bool interrupted() const;
+    /// Puts back what was changed, if a scene failed or the run was interrupted and the policy wants that.
     void roll_back_if_failed();
     const std::vector<scene_result>& results() const { return results_; }
     record told();  ///< lent from this

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "base/language.h"
+#include "session/interruption.h"
 
 namespace oxhost {
 
@@ -81,6 +82,7 @@ console console::standard() {
 }
 
 void console_messages::show(message_kind kind, const std::string& text) {
+    if (interrupting_signal()) return;  // a verdict on scenes that were declined
     if (kind == message_kind::error) {
         console_.error << text << std::endl;
     } else if (!options_.quiet) {
@@ -107,6 +109,7 @@ std::optional<bool> console_messages::ask(const std::string& text) {
 std::optional<bool> console_messages::ask_terminal(const std::string& text) {
     for (std::string line;;) {
         console_.out << text << in_language(" [д/Н] ", " [y/N] ") << std::flush;
+        if (&console_.in == &std::cin && !wait_for_input(STDIN_FILENO)) return {};
         if (!std::getline(console_.in, line)) return {};
         if (const auto answer = parse_answer(line)) return answer;
     }

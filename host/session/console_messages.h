@@ -1,6 +1,6 @@
 #pragma once
 /// Messages on a command line: information on the output, errors on the error output, questions on a
-/// terminal or answered beforehand.
+/// terminal or answered beforehand. A program that was told to end is spared what comes after.
 
 #include <iosfwd>
 

@@ -19,6 +19,9 @@ struct scene_update {
     std::optional<std::string> setup_failure;  ///< the pair of projections was refused
     std::optional<vertex_failure> transform_failure;
     std::optional<std::string> store_failure;  ///< the project file refused the change
+    std::optional<double> return_error;        ///< metres, of the transformed line
+    std::size_t added_vertices = 0;
+    bool declined = false;  ///< the run is to end: the scene was not attempted
 };
 
 class journal {

@@ -1,0 +1,48 @@
+#pragma once
+/// A scene's line on its way into another projection: transformed, judged by the way back, and given more
+/// vertices where straight segments would bow. [ui]
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/line.h"
+#include "geodesy/transformation.h"
+
+namespace oxhost {
+
+/// What is asked of every line; one per process.
+struct reprojection_rules {
+    double return_tolerance = 0.01;  ///< metres by which a vertex may miss its place on the way back
+    bool one_way = false;            ///< projections without an inverse may be targets
+    double densify = 0;              ///< metres by which a segment may bow before it is divided; 0: never
+};
+const reprojection_rules& current_rules();
+void use_rules(const reprojection_rules& rules);
+
+/// Why the rules refuse the text as a target, in the user's language; nothing when they do not.
+std::optional<std::string> refusal_of_target(std::string_view proj4);
+
+struct reprojected_line {
+    std::optional<vertex_failure> failure;  ///< the line is as it was
+    /// Metres between a vertex's place and where the way back puts it, the largest of the vertices that were
+    /// tested: first, last, outermost and one in thirty-two; all of a short line, or when one stands out.
+    /// Nothing without a way back.
+    std::optional<double> return_error;
+    std::size_t added_vertices = 0;
+};
+
+/// By the current rules. All or nothing.
+reprojected_line reproject(section_line& line, const transformation& way);
+
+/// Divides the segments of `line` that bow by more than `metres`, at their middles in the source's plane;
+/// what the vertices carry is interpolated along the segment. Places that cannot be transformed divide
+/// nothing. Answers how many vertices were added.
+std::size_t densify(section_line& line, const transformation& way, double metres);
+
+/// Metres by which straight segments of `line` bow in the target, the most of all: between the images of
+/// points on a segment and the straight line through the images of its ends. Nothing when one cannot be
+/// transformed.
+std::optional<double> segment_deviation(const polyline& line, const transformation& way);
+
+}  // namespace oxhost
