@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "app/command.h"
+#include "app/outputs.h"
 #include "base/files.h"
 #include "base/language.h"
 #include "run/report.h"
@@ -21,17 +22,13 @@ struct reproject_options {
     console_options console;
     fs::path report;  ///< empty for none
     fs::path map;     ///< empty for none
+    bool overwrite = false;
 };
 
 /// Everything that can be found wrong is found here, before anything changes.
 void check_outputs(const reproject_options& options) {
-    std::error_code ignored;
-    for (const fs::path& out : {options.report, options.map}) {
-        if (out.empty()) continue;
-        check_writable(out);
-        if (fs::equivalent(out, options.wanted.project, ignored))
-            throw failure(exit_code::nothing_done, out.string() + ": is the project itself");
-    }
+    for (const fs::path& out : {options.report, options.map})
+        if (!out.empty()) check_output(out, options.overwrite);
     if (!options.map.empty() && options.map == options.report)
         throw failure(exit_code::nothing_done, options.map.string() + ": cannot be both report and map");
 }
@@ -57,8 +54,8 @@ void tell(const reproject_options& options, const std::vector<run::scene_result>
 }
 
 exit_code reproject(const reproject_options& options) {
-    run::reprojection work(options.wanted);
     check_outputs(options);
+    run::reprojection work(options.wanted);
     if (!options.console.quiet)
         for (const std::string& each : work.warnings())
             std::cerr << in_language("предупреждение: ", "warning: ") << each << '\n';
@@ -110,6 +107,7 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("FILE.json");
     command->add_option("--map", options->map, "A picture of the lines before and after")
         ->type_name("FILE.svg");
+    add_overwrite(*command, options->overwrite);
     command->add_flag("--quiet", options->console.quiet, "Say nothing but errors and questions");
     add_language(*command);
     add_bundle(*command, wanted.bundle);
