@@ -12,7 +12,7 @@ mkdir -p out
 rm -f "$project" "$project"-*  # with the journal of a run that was cut off
 step "Importing samples/*.geojson" "$oxhost" import "$project" samples/*.geojson
 "$oxhost" list "$project"
-"$oxhost" reproject "$project" --all --yes --to EPSG:32640 --report out/report.json --map out/map.svg
+"$oxhost" reproject "$project" --all --yes --to EPSG:32640 --report out/report.json --map out/map.svg --overwrite
 
 echo "Project: $project"
 echo "Report:  out/report.json"

@@ -2,7 +2,7 @@
 #include <iostream>
 
 #include "app/command.h"
-#include "base/files.h"
+#include "app/outputs.h"
 #include "run/plug_in.h"
 #include "run/plug_in_texts.h"
 #include "run/request.h"
@@ -19,6 +19,8 @@ using dialog_act = std::function<void(run::projection_dialog&, dialog_hands&)>;
 struct project_options {
     std::string text;
     std::vector<dialog_act> acts;
+    std::vector<std::filesystem::path> outputs;
+    bool overwrite = false;
     bool quiet = false;
     std::filesystem::path bundle;
 };
@@ -33,6 +35,7 @@ dialog_act choosing(const std::string& given) {
 }
 
 exit_code edit(const project_options& options) try {
+    for (const std::filesystem::path& each : options.outputs) check_output(each, options.overwrite);
     // An empty text is what the dialog starts from when nothing is chosen.
     const run::target start = options.text.empty() ? run::target{} : run::read_target(options.text);
     run::projection_dialog dialog(options.bundle);
@@ -96,9 +99,10 @@ void add_project(CLI::App& app, action& chosen) {
     command
         ->add_option_function<std::string>(
             "--save",
-            [act](const std::string& file) {
+            [act, options](const std::string& file) {
+                options->outputs.emplace_back(file);
+                if (file.ends_with(".prj")) options->outputs.emplace_back(file + ".pj4");  // its companion
                 act([file](run::projection_dialog& dialog, dialog_hands& hands) {
-                    check_writable(file);
                     dialog.save(hands, file);
                 });
             },
@@ -117,6 +121,7 @@ void add_project(CLI::App& app, action& chosen) {
             "Load a .pj4 or .prj file")
         ->type_name("FILE")
         ->trigger_on_parse();
+    add_overwrite(*command, options->overwrite);
     command->add_flag("--quiet", options->quiet, "Print the text only");
     add_language(*command);
     add_bundle(*command, options->bundle);

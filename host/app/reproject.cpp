@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "app/command.h"
+#include "app/outputs.h"
 #include "base/files.h"
 #include "base/language.h"
 #include "run/report.h"
@@ -24,19 +25,13 @@ struct reproject_options {
     console_options console;
     fs::path report;  ///< empty for none
     fs::path map;     ///< empty for none
+    bool overwrite = false;
 };
 
 /// Everything that can be found wrong is found here, before anything changes.
 void check_outputs(const reproject_options& options) {
-    std::error_code ignored;
-    for (const fs::path& out : {options.report, options.map}) {
-        if (out.empty()) continue;
-        check_writable(out);
-        if (fs::equivalent(out, options.wanted.project, ignored))
-            throw failure(
-                exit_code::nothing_done,
-                out.string() + std::string(in_language(": это сам проект", ": is the project itself")));
-    }
+    for (const fs::path& out : {options.report, options.map})
+        if (!out.empty()) check_output(out, options.overwrite);
     if (!options.map.empty() && options.map == options.report)
         throw failure(exit_code::nothing_done,
                       options.map.string() + std::string(in_language(": не может быть и отчётом, и картой",
@@ -73,8 +68,8 @@ void tell(const reproject_options& options, const std::vector<run::scene_result>
 exit_code reproject(const reproject_options& options) {
     ignore_closed_pipes();
     const interruption_watch watch;
-    run::reprojection work(options.wanted);
     check_outputs(options);
+    run::reprojection work(options.wanted);
     if (!options.console.quiet)
         for (const std::string& each : work.warnings())
             std::cerr << in_language("предупреждение: ", "warning: ") << each << '\n';
@@ -143,6 +138,7 @@ void add_reproject(CLI::App& app, action& chosen) {
                                              "Add vertices where a segment would bow by more")))
         ->type_name("METRES")
         ->check(CLI::PositiveNumber);
+    add_overwrite(*command, options->overwrite);
     command->add_flag("--quiet", options->console.quiet, "Say nothing but errors and questions");
     add_language(*command);
     add_bundle(*command, wanted.bundle);

@@ -19,13 +19,20 @@ struct file_error : std::runtime_error {
 std::optional<std::string> read_file(const std::filesystem::path& file, std::size_t limit = 1 << 20);
 
 /// Writes to a temporary neighbour, flushes it to disk and renames it, so that a killed process leaves the
-/// old content or the new. Throws file_error; the old file is then as it was.
+/// old content or the new. A linked file stays linked. Throws file_error; the old file is then as it was.
 void replace_file(const std::filesystem::path& file, std::string_view content);
+
+/// What is no ordinary file, such as a pipe, or stands for an open descriptor, such as /dev/stdout: it is
+/// written into, never replaced.
+bool is_stream(const std::filesystem::path& file);
+
+/// The file that symbolic links lead to; the name as it is when they lead nowhere.
+std::filesystem::path behind_links(const std::filesystem::path& file);
 
 /// Throws file_error when an output could not be made or replaced: asked before work whose result it takes.
 void check_writable(const std::filesystem::path& file);
 
-/// Replaces the file; one that is no ordinary file, such as /dev/stdout, is written into. Throws file_error.
+/// Replaces the file, or writes into a stream. Throws file_error.
 void write_output(const std::filesystem::path& file, std::string_view content);
 
 /// An empty folder of one's own that vanishes with its content.

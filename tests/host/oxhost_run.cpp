@@ -8,6 +8,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "project/project.h"
+
 namespace oxhost_test {
 
 namespace {
@@ -71,15 +73,10 @@ std::vector<std::string> sandbox::files() const {
     return names;
 }
 
-std::vector<oxhost::polyline> sandbox::exported_lines() const {
-    const auto run = oxhost({"export", "p.gpkg", "exported.geojson", "--quiet"});
-    EXPECT_EQ(run.code, 0) << run.error;
-    const auto collection = json("exported.geojson");
+std::vector<oxhost::polyline> sandbox::stored_lines() const {
+    const auto opened = oxhost::project::open(path("p.gpkg"), oxhost::open_mode::read_only);
     std::vector<oxhost::polyline> lines;
-    for (const auto& feature : collection.at("features")) {
-        auto& line = lines.emplace_back();
-        for (const auto& p : feature.at("geometry").at("coordinates")) line.push_back({p.at(0), p.at(1)});
-    }
+    for (const auto& each : opened->scenes()) lines.push_back(opened->read_line(each).xy);
     return lines;
 }
 

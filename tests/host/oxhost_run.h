@@ -47,8 +47,8 @@ public:
     nlohmann::json json(const std::string& name) const { return nlohmann::json::parse(bytes(name)); }
     std::vector<std::string> files() const;
 
-    /// All lines of p.gpkg as an export writes them.
-    std::vector<oxhost::polyline> exported_lines() const;
+    /// All lines of p.gpkg.
+    std::vector<oxhost::polyline> stored_lines() const;
     /// "proj4" or another field of all scenes of p.gpkg.
     std::vector<std::string> listed(const std::string& field) const;
 

@@ -57,7 +57,7 @@ TEST_P(Reprojection, StoresTheExpectedLineAndText) {
     const auto run = box.oxhost({"reproject", "p.gpkg", "--to", of.target, "--all"});
     ASSERT_EQ(run.code, 0) << run.error;
     EXPECT_EQ(box.listed("proj4").front(), of.target);
-    const polyline line = box.exported_lines().front();
+    const polyline line = box.stored_lines().front();
     ASSERT_EQ(line.size(), of.after.size());
     for (std::size_t i = 0; i < line.size(); ++i) {
         EXPECT_NEAR(line[i].x, of.after[i].x, of.tolerance) << "vertex " << i;
@@ -122,7 +122,7 @@ TEST_P(OnError, DecidesWhatIsLeft) {
     const policy_case& of = GetParam();
     const sandbox box;
     make_mixed_project(box);
-    const auto before = box.exported_lines();
+    const auto before = box.stored_lines();
     const auto run = box.oxhost({"reproject", "p.gpkg", "--to", utm40, "--all", "--on-error", of.name,
                                  "--report", "r.json", "--quiet"});
     EXPECT_EQ(run.code, 1);
@@ -134,7 +134,7 @@ TEST_P(OnError, DecidesWhatIsLeft) {
     for (const auto& scene : report.at("scenes")) outcomes.push_back(scene.at("outcome"));
     EXPECT_EQ(outcomes, of.outcomes);
     EXPECT_EQ(report.at("scenes").at(1).at("failure").at("vertex"), 2);
-    const auto after = box.exported_lines();
+    const auto after = box.stored_lines();
     for (const std::size_t untouched : {1u, 2u, 4u}) EXPECT_EQ(after[untouched], before[untouched]);
     EXPECT_EQ(after[0] != before[0], of.changes_first);
     EXPECT_EQ(after[3] != before[3], of.changes_last);
@@ -165,7 +165,7 @@ TEST(FullDisk, LeavesWholeScenesAndTellsWhich) {
                                 "trap '' XFSZ; ulimit -f 400;");  // 200 KB of the 400 KB
     EXPECT_EQ(run.code, 1);
     const auto texts = box.listed("proj4");
-    const auto after = box.exported_lines();
+    const auto after = box.stored_lines();
     int stored = 0;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const bool is_new = texts[i] == utm40;
@@ -205,8 +205,9 @@ TEST(DryRun, TellsTheSameAndChangesNothing) {
     const sandbox box;
     make_mixed_project(box);
     const std::string project = box.bytes("p.gpkg");
-    const std::vector<std::string> command{"reproject", "p.gpkg",   "--to",   utm40,   "--all", "--on-error",
-                                           "skip",      "--report", "r.json", "--map", "m.svg"};
+    const std::vector<std::string> command{"reproject", "p.gpkg",     "--to",  utm40,
+                                           "--all",     "--on-error", "skip",  "--report",
+                                           "r.json",    "--map",      "m.svg", "--overwrite"};
     auto dry = command;
     dry.push_back("--dry-run");
     EXPECT_EQ(box.oxhost(dry).code, 1);
@@ -240,7 +241,7 @@ TEST_P(Question, IsAnsweredBeforehandOrRefused) {
     const sandbox box;
     box.make_project({{"with", gauss_kruger_10, good_line}, {"without", "", good_line}});
     const std::string project = box.bytes("p.gpkg");
-    const auto before = box.exported_lines();
+    const auto before = box.stored_lines();
     const auto answered = [&](std::vector<std::string> answer) {
         answer.insert(answer.begin(), {"reproject", "p.gpkg", "--to", of.target, "--all"});
         return box.oxhost(answer, of.language);
@@ -255,7 +256,7 @@ TEST_P(Question, IsAnsweredBeforehandOrRefused) {
 
     EXPECT_EQ(answered({"--yes", "--quiet"}).code, 0);
     EXPECT_EQ(box.listed("proj4"), of.texts);
-    EXPECT_EQ(box.exported_lines()[1], before[1]);
+    EXPECT_EQ(box.stored_lines()[1], before[1]);
 }
 
 INSTANTIATE_TEST_SUITE_P(
