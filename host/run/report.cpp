@@ -3,11 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "base/language.h"
-#include "geodesy/description.h"
 #include "geodesy/measure.h"
 #include "geodesy/transformation.h"
-#include "map/section_map.h"
 
 namespace oxhost::run {
 
@@ -90,18 +87,6 @@ std::string_view name_of(on_error policy) {
     return policy == on_error::stop ? "stop" : policy == on_error::skip ? "skip" : "rollback";
 }
 
-/// Where a line lies, if that can be told.
-std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
-    if (proj4.empty() || line.empty()) return std::nullopt;
-    return measured([&] { return to_wgs84(line, proj4); });
-}
-
-map::look look_of(outcome came_to) {
-    if (came_to == outcome::failed) return map::look::failed;
-    return came_to == outcome::reprojected || came_to == outcome::assigned ? map::look::changed
-                                                                           : map::look::kept;
-}
-
 }  // namespace
 
 std::string json_text(const json& value) { return value.dump(2, ' ', false, json::error_handler_t::replace); }
@@ -122,27 +107,6 @@ std::string report_text(const record& told) {
                       {"counts", counts},
                       {"scenes", std::move(scenes)}};
     return json_text(report) + '\n';
-}
-
-std::string map_text(const record& told) {
-    const language wanted = current_language();
-    const std::string destination = told.goal.none()
-                                        ? std::string(in_language("проекция сброшена", "projection reset"))
-                                        : short_description(told.goal.proj4, wanted);
-    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + destination,
-                     .note = {},
-                     .wanted = wanted,
-                     .lines = {}};
-    if (told.wanted.dry_run) sheet.note = in_language("; пробный запуск", "; dry run");
-    for (std::size_t i = 0; i < told.results.size(); ++i) {
-        const scene_result& result = told.results[i];
-        const bool moved = result.came_to == outcome::reprojected || result.came_to == outcome::reset;
-        sheet.lines.push_back({.caption = result.subject->caption,
-                               .shown_as = look_of(result.came_to),
-                               .before = moved ? placed(told.before[i], result.source) : std::nullopt,
-                               .now = placed(told.after[i], result.subject->proj4)});
-    }
-    return map::section_map(std::move(sheet));
 }
 
 }  // namespace oxhost::run
