@@ -15,7 +15,7 @@ std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
     if (proj4.empty() || line.empty()) return std::nullopt;
     try {
         return to_wgs84(line, proj4);
-    } catch (const std::invalid_argument&) {  // a text that PROJ refuses
+    } catch (const std::invalid_argument&) {  // a text that PROJ refuses places nothing
         return std::nullopt;
     }
 }
