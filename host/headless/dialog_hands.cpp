@@ -68,13 +68,26 @@ node& the_one(shell::open_dialog& dialog, const std::vector<node*>& there, std::
                      in_quotes(name) + "; name the group too, as in \"Group/Name\"");
 }
 
-/// The item itself, else the only one that begins so.
+/// Does the item begin with this whole word or number? "1N (CM 177W)" begins with "1" and "1N", not "10N".
+bool begins_with_word(std::string_view item, std::string_view value) {
+    if (value.empty() || !item.starts_with(value) || item.size() == value.size()) return false;
+    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto parts = [&](char c) { return is_digit(value.back()) ? !is_digit(c) && c != '.' : c == ' '; };
+    return parts(item[value.size()]);
+}
+
+/// The item itself, else the only one that begins with that word or number, else the only one that begins so.
 std::vector<std::string>::const_iterator item_of(const std::vector<std::string>& items,
                                                  std::string_view value) {
-    const auto begins_so = [&](const std::string& item) { return item.starts_with(value); };
+    const auto only = [&](auto&& fits) {
+        const auto first = std::ranges::find_if(items, fits);
+        const bool more = first != items.end() && std::any_of(first + 1, items.end(), fits);
+        return more ? items.end() : first;
+    };
     if (const auto exact = std::ranges::find(items, value); exact != items.end()) return exact;
-    const bool unique = !value.empty() && std::ranges::count_if(items, begins_so) == 1;
-    return unique ? std::ranges::find_if(items, begins_so) : items.end();
+    const auto word = only([&](const std::string& item) { return begins_with_word(item, value); });
+    if (word != items.end() || value.empty()) return word;
+    return only([&](const std::string& item) { return item.starts_with(value); });
 }
 
 node& the_only(shell::open_dialog& dialog, const std::vector<node*>& there, std::string_view what) {

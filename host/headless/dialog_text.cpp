@@ -1,6 +1,8 @@
 #include "headless/dialog_hands.h"
 
+#include "base/language.h"
 #include "base/numbers.h"
+#include "base/text.h"
 
 namespace oxhost::headless {
 
@@ -23,8 +25,10 @@ public:
                 write_choice(shown);
                 break;
             case node_kind::floating_input:
-                line(shown.name() + ": " + number_text(shown.state().value) +
-                     (shown.state().read_only || !shown.state().enabled ? "  (shown)" : ""));
+                line(shown.name() + ": " + number_text(shown.state().value),
+                     shown.state().read_only || !shown.state().enabled
+                         ? in_language("  (показано)", "  (shown)")
+                         : "");
                 break;
             case node_kind::input:
                 line(shown.name() + ": " + shown.state().text);
@@ -34,7 +38,8 @@ public:
                 break;
             case node_kind::button:
             case node_kind::action_tool:
-                line('<' + shown.state().caption + '>' + (shown.state().enabled ? "" : "  (off)"));
+                line('<' + shown.state().caption + '>',
+                     shown.state().enabled ? "" : in_language("  (выключено)", "  (off)"));
                 break;
             case node_kind::outline:
                 write_rows(*shown.rows());
@@ -49,7 +54,9 @@ public:
     const std::string& text() const { return text_; }
 
 private:
-    void line(const std::string& content) { text_ += std::string(2 * depth_, ' ') + content + '\n'; }
+    void line(const std::string& content, std::string_view remark = {}) {
+        text_.append(2 * depth_, ' ').append(content).append(remark) += '\n';
+    }
 
     void write_children(node& shown) {
         for (const auto& child : shown.children())
@@ -57,13 +64,10 @@ private:
     }
 
     void write_choice(node& shown) {
-        constexpr std::size_t most_listed = 12;
         const auto& state = shown.state();
         line(shown.name() + ": " + state.text);
         std::string items;
-        for (std::size_t i = 0; i < state.items.size() && i < most_listed; ++i)
-            items += (i ? " | " : "") + state.items[i];
-        if (state.items.size() > most_listed) items += " | ... (" + std::to_string(state.items.size()) + ')';
+        for (const std::string& item : state.items) append_item(items, item, " | ");
         ++depth_;
         if (!items.empty()) line("[" + items + "]");
         --depth_;
