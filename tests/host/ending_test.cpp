@@ -97,8 +97,8 @@ TEST_P(Signal, EndsAfterTheSceneInHand) {
     const signal_case& of = GetParam();
     const sandbox box;
     make_large_project(box, of.source);
-    std::vector<std::string> command{"reproject", "p.gpkg",     "--to",    utm40,      "--all",
-                                     "--yes",     "--on-error", of.policy, "--report", "r.json"};
+    std::vector<std::string> command{"reproject",  "p.gpkg",  "--to",     utm40,    "--all",      "--yes",
+                                     "--on-error", of.policy, "--report", "r.json", "--overwrite"};
     auto dry = command;
     dry.push_back("--dry-run");
     const std::string told = box.oxhost(dry).out;
