@@ -51,8 +51,6 @@ exit_code code_of(const std::vector<run::scene_result>& results) {
 }
 
 void tell(const reproject_options& options, const std::vector<run::scene_result>& results) {
-    for (const run::scene_result& each : results)
-        if (each.failure) std::cerr << failure_line(each) << '\n';
     if (interrupting_signal()) std::cerr << interruption_line() << '\n';
     if (options.console.quiet) return;
     std::cout << summary(results);
@@ -74,7 +72,7 @@ exit_code reproject(const reproject_options& options) {
         for (const std::string& each : work.warnings())
             std::cerr << in_language("предупреждение: ", "warning: ") << each << '\n';
     messages::instance().use(std::make_unique<console_messages>(console::standard(), options.console));
-    work.perform();
+    work.perform([](const run::scene_result& failed) { std::cerr << failure_line(failed) << '\n'; });
     exit_code code = code_of(work.results());
     try {
         work.roll_back_if_failed();

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <stdexcept>
 
+#include "base/language.h"
 #include "base/memo.h"
 #include "geodesy/crs.h"
 #include "geodesy/transformation.h"
@@ -29,13 +31,14 @@ private:
     geod_geodesic model_{};
 };
 
-/// The shape that a text puts its coordinates on, with the text's own longitude and latitude: the way
+/// The shape that a text puts its coordinates on, with the text's own latitude and longitude: the way
 /// back through the projection only.
 struct own_ellipsoid {
     explicit own_ellipsoid(std::string_view proj4)
         : system(crs_of(proj4)), shape(system->valid() ? ellipsoid_of(system->object.get()) : ellipsoid{}) {
         if (!system->valid())
-            throw std::invalid_argument("projection \"" + system->text + "\": " + system->error);
+            throw std::invalid_argument(std::string(in_language("проекция", "projection")) + " \"" +
+                                        system->text + "\": " + system->error);
         const pj_ptr base = geographic_base(system->object.get());
         const pj_ptr plain(proj_get_type(system->object.get()) == PJ_TYPE_BOUND_CRS
                                ? proj_get_source_crs(proj_context(), system->object.get())
@@ -43,14 +46,20 @@ struct own_ellipsoid {
         const pj_ptr way(
             proj_create_crs_to_crs_from_pj(proj_context(), plain.get(), base.get(), nullptr, nullptr));
         if (way) to_base.reset(proj_normalize_for_visualization(proj_context(), way.get()));
+        const pj_ptr meridian(proj_get_prime_meridian(proj_context(), base.get()));
+        double in_radians = 1;
+        if (meridian && proj_prime_meridian_get_parameters(proj_context(), meridian.get(), &prime_meridian,
+                                                           &in_radians, nullptr))
+            prime_meridian *= in_radians * 180 / std::numbers::pi;
     }
 
+    /// From Greenwich, whatever meridian the text counts from.
     std::optional<polyline> longitudes_latitudes(const polyline& line) const {
         if (!to_base) return {};
         polyline result = line;
         for (point& at : result) {
             const PJ_COORD moved = proj_trans(to_base.get(), PJ_FWD, proj_coord(at.x, at.y, 0, 0));
-            at = {moved.xy.x, moved.xy.y};
+            at = {moved.xy.x + prime_meridian, moved.xy.y};
             if (!is_finite(at) || std::abs(at.y) > 90) return {};
         }
         return result;
@@ -59,6 +68,7 @@ struct own_ellipsoid {
     std::shared_ptr<const crs> system;
     ellipsoid shape;
     pj_ptr to_base;
+    double prime_meridian = 0;  ///< degrees
 };
 
 const own_ellipsoid& own_ellipsoid_of(std::string_view proj4) {

@@ -25,9 +25,7 @@ std::optional<std::string> refusal_of_target(std::string_view proj4);
 
 struct reprojected_line {
     std::optional<vertex_failure> failure;  ///< the line is as it was
-    /// Metres between a vertex's place and where the way back puts it, the largest of the vertices that were
-    /// tested: first, last, outermost and one in thirty-two; all of a short line, or when one stands out.
-    /// Nothing without a way back.
+    /// Metres, as test_return finds them. Nothing without a way back.
     std::optional<double> return_error;
     std::size_t added_vertices = 0;
 };

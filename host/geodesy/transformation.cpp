@@ -147,14 +147,6 @@ std::optional<vertex_failure> transformation::first_failure(const polyline& befo
 
 void transformation::bring_back(polyline& line) const { transform(pipeline_.get(), line, PJ_INV); }
 
-point transformation::there_and_back(point place) const {
-    const PJ_COORD there = proj_trans(pipeline_.get(), PJ_FWD, proj_coord(place.x, place.y, 0, 0));
-    const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));
-    const PJ_COORD back =
-        proj_trans(used ? used.get() : pipeline_.get(), PJ_INV, proj_coord(there.xy.x, there.xy.y, 0, 0));
-    return {back.xy.x, back.xy.y};
-}
-
 operation_info transformation::operation() const {
     const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));
     const PJ_PROJ_INFO info = proj_pj_info(used ? used.get() : pipeline_.get());

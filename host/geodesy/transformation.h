@@ -36,8 +36,6 @@ public:
     bool has_return() const { return has_return_; }
     /// Backwards, in place: vertices that cannot be brought back become infinite.
     void bring_back(polyline& line) const;
-    /// Where the operation that serves the place brings it back to.
-    point there_and_back(point place) const;
     const crs& source() const { return *source_; }
     const crs& target() const { return *target_; }
     /// Where more than one operation serves the pair (NAD27), the one last used.

@@ -48,7 +48,8 @@ std::vector<scene_result> before_run(const std::vector<scene*>& scenes) {
     return results;
 }
 
-std::size_t read_journal(std::vector<scene_result>& results, const std::string& target, std::size_t seen) {
+std::size_t read_journal(std::vector<scene_result>& results, const std::string& target, std::size_t seen,
+                         const failure_listener& tell) {
     const auto& updates = journal::instance().updates();
     for (; seen < updates.size(); ++seen) {
         const scene_update& update = updates[seen];
@@ -59,6 +60,7 @@ std::size_t read_journal(std::vector<scene_result>& results, const std::string& 
         found->failure = failure_of(update);
         found->came_to = found->failure ? outcome::failed : outcome_of(update, found->source, target);
         found->return_error = update.return_error;
+        if (found->failure && tell) tell(*found);
         found->added_vertices = update.line_stored ? update.added_vertices : 0;
     }
     return seen;

@@ -1,6 +1,7 @@
 #pragma once
 /// What became of the scenes of one reprojection, told from the journal of the host's functions.
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,8 +35,12 @@ struct scene_result {
 /// The scenes as they are before a run, none attempted.
 std::vector<scene_result> before_run(const std::vector<scene*>& scenes);
 
-/// Takes over what the journal has recorded since `seen` records; answers how many it has now.
-std::size_t read_journal(std::vector<scene_result>& results, const std::string& target, std::size_t seen);
+using failure_listener = std::function<void(const scene_result& failed)>;
+
+/// Takes over what the journal has recorded since `seen` records; answers how many it has now. Tells of each
+/// that is a failure.
+std::size_t read_journal(std::vector<scene_result>& results, const std::string& target, std::size_t seen,
+                         const failure_listener& tell = {});
 
 std::size_t count(const std::vector<scene_result>& results, outcome counted);
 

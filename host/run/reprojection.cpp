@@ -58,7 +58,7 @@ reprojection::reprojection(order wanted)
       results_(before_run(scenes_)),
       warnings_(warnings_of(*project_, results_, goal_.proj4)) {}
 
-void reprojection::perform() {
+void reprojection::perform(const failure_listener& tell) {
     before_ = kept_lines();
     if (order_.policy == on_error::rollback)
         for (const scene* each : scenes_) states_.push_back(project_->state(each->index));
@@ -67,7 +67,7 @@ void reprojection::perform() {
     std::size_t seen = 0;
     const auto after_apply = [&]() -> std::vector<scene*> {
         const std::size_t before = seen;
-        seen = read_journal(results_, goal_.proj4, seen);
+        seen = read_journal(results_, goal_.proj4, seen, tell);
         const bool went_on =
             seen > before && !interrupting_signal();  // else a further try would end the same
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};

@@ -65,7 +65,8 @@ public:
     /// As `advise` gives them.
     const std::vector<std::string>& warnings() const { return warnings_; }
     /// Drives the plug-in until the order's policy is content, or a signal ends it after the scene in hand.
-    void perform();
+    /// Failures are told when they have happened.
+    void perform(const failure_listener& tell = {});
     /// Did a signal keep the run from scenes? They are "not attempted".
     bool interrupted() const;
     /// Puts back what was changed, if a scene failed or the run was interrupted and the policy wants that.

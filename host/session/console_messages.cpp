@@ -11,6 +11,7 @@
 
 #include "base/language.h"
 #include "session/interruption.h"
+#include "session/journal.h"
 
 namespace oxhost {
 
@@ -84,6 +85,7 @@ console console::standard() {
 void console_messages::show(message_kind kind, const std::string& text) {
     if (interrupting_signal()) return;  // a verdict on scenes that were declined
     if (kind == message_kind::error) {
+        if (journal::instance().last_failed()) return;
         console_.error << text << std::endl;
     } else if (!options_.quiet) {
         console_.out << text << std::endl;

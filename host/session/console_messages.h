@@ -1,6 +1,7 @@
 #pragma once
 /// Messages on a command line: information on the output, errors on the error output, questions on a
-/// terminal or answered beforehand. A program that was told to end is spared what comes after.
+/// terminal or answered beforehand. Two verdicts of a module are not shown: on scenes that
+/// were declined since the program was told to end, and on a failure that the journal knows by name.
 
 #include <iosfwd>
 

@@ -20,6 +20,8 @@ void journal::begin(std::size_t scene) {
     open_ = true;
 }
 
+bool journal::last_failed() const { return !updates_.empty() && updates_.back().failed(); }
+
 void journal::file_function_ended(std::optional<std::string> failure) { file_failure_ = std::move(failure); }
 
 std::optional<std::string> journal::take_file_failure() { return std::exchange(file_failure_, {}); }

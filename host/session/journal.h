@@ -22,6 +22,8 @@ struct scene_update {
     std::optional<double> return_error;        ///< metres, of the transformed line
     std::size_t added_vertices = 0;
     bool declined = false;  ///< the run is to end: the scene was not attempted
+
+    bool failed() const { return setup_failure || transform_failure || store_failure; }
 };
 
 class journal {
@@ -34,6 +36,8 @@ public:
     /// The record being written, or null outside a bracket.
     scene_update* current() { return open_ ? &updates_.back() : nullptr; }
     const std::vector<scene_update>& updates() const { return updates_; }
+    /// Is the last record that of a failure, which reports name?
+    bool last_failed() const;
 
     /// How the last function that reads or writes a file ended: what went wrong, in one line, or nothing.
     void file_function_ended(std::optional<std::string> failure);

@@ -37,6 +37,12 @@ TEST(Measure, ShiftTellsAReprojectionFromAnAssignment) {
     EXPECT_LT(reprojected->ground, 0.001);
     EXPECT_NEAR(reprojected->datum, 118, 5);  // Pulkovo 1942 to WGS 84 near Moscow
 
+    // another meridian is no shift: cs2cs, then geod from 48.85 N 2.337229166667 E, PROJ 9.1.1
+    const std::string paris = "+proj=longlat +ellps=clrk80ign +pm=paris +towgs84=-168,-60,320";
+    const auto from_paris =
+        shift_between({{0, 48.85}}, paris, {{2.336505668628, 48.849930680239}}, texts::wgs84);
+    EXPECT_NEAR(from_paris->datum, 53.6551, 0.001);
+
     // coordinates moved by 30 m under the same text
     polyline moved = before;
     moved[1].x += 30;
