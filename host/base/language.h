@@ -40,6 +40,9 @@ struct bilingual {
     friend std::string operator+(std::string left, const bilingual& right) {
         return left += in_language(right.russian, right.english);
     }
+    friend std::string operator+(const bilingual& left, std::string_view right) {
+        return std::string(left).append(right);
+    }
 };
 
 }  // namespace oxhost

@@ -10,6 +10,7 @@ namespace {
 
 std::vector<scene*> scenes_of(const order& wanted, project& opened) {
     auto scenes = wanted.scenes ? select_scenes(opened, *wanted.scenes) : listed_scenes(opened);
+    if (!wanted.sources.empty()) scenes = scenes_in(scenes, wanted.sources);
     if (scenes.empty())
         throw failure(
             trouble::refused,
