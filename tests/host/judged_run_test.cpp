@@ -90,7 +90,7 @@ TEST(Distorted, IsToldOnceAndMeasuredPerScene) {
     EXPECT_EQ(run.error,
               "warning: 1 of 3 lines is stretched by more than 1 %; the worst, scene 1 \"far\", by 2.7 %\n");
     auto quiet = command;
-    quiet.push_back("--quiet");
+    quiet.insert(quiet.end(), {"--quiet", "--overwrite"});
     EXPECT_EQ(box.oxhost(quiet).error, "");
     EXPECT_NE(
         box.oxhost({"reproject", "p.gpkg", "--to", utm37, "--all", "--dry-run"})
