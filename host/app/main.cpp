@@ -3,6 +3,8 @@
 #include <iostream>
 
 #include "app/command.h"
+#include "geodesy/gis_crs.h"
+#include "project/gis_systems.h"
 #include "session/border.h"
 
 namespace {
@@ -11,6 +13,15 @@ using namespace oxhost::app;
 
 int answer(exit_code code) { return static_cast<int>(code); }
 
+/// What a project's texts are to other GIS programs.
+std::optional<oxhost::gis_system> look_up(const std::string& proj4, const oxhost::extent& bounds) {
+    const auto found = oxhost::crs_for_gis(proj4, bounds);
+    if (!found) return {};
+    return oxhost::gis_system{found->name, found->wkt, found->epsg};
+}
+
+void tell(const std::string& line) { std::cerr << line << '\n'; }
+
 int run(int argc, char** argv) {
     CLI::App app{"Reprojects the section lines of 2D profile scenes", "oxhost"};
     app.set_version_flag("--version", "oxhost " OXHOST_VERSION);
@@ -18,7 +29,7 @@ int run(int argc, char** argv) {
     add_verbose(app);
     action chosen;
     for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
-                           add_catalogue, add_utilities})
+                           add_catalogue, add_undo, add_utilities})
         add(app, chosen);
     try {
         app.parse(argc, argv);
@@ -36,6 +47,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     ox::on_border_fault = oxhost::tell_fault;  // that of the shell, which is part of this program
+    oxhost::use_gis_directory({look_up, tell});
     // Characters and messages follow the locale; numbers never do.
     std::setlocale(LC_CTYPE, "");
     std::setlocale(LC_MESSAGES, "");

@@ -29,6 +29,7 @@ struct order {
     std::optional<std::vector<std::string>> scenes;  ///< by index or caption; nothing for all that are listed
     bool dry_run = false;                            ///< do it all, but leave the project as it is
     on_error policy = on_error::stop;
+    bool no_undo = false;  ///< keep nothing by which the run could be undone, nor what earlier runs have kept
     bool keep_lines = false;  ///< the record is to have the lines before and after
     std::filesystem::path bundle;
 };
@@ -76,7 +77,6 @@ private:
     std::vector<scene_result> results_;
     std::vector<std::string> warnings_;
     std::vector<polyline> before_;
-    std::vector<scene_state> states_;  ///< kept for a rollback
 };
 
 }  // namespace oxhost::run
