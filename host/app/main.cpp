@@ -4,6 +4,8 @@
 
 #include "app/command.h"
 #include "app/help.h"
+#include "geodesy/gis_crs.h"
+#include "project/gis_systems.h"
 #include "session/border.h"
 
 namespace {
@@ -23,6 +25,15 @@ constexpr bilingual closing_words{
 
 int answer(exit_code code) { return static_cast<int>(code); }
 
+/// What a project's texts are to other GIS programs.
+std::optional<oxhost::gis_system> look_up(const std::string& proj4, const oxhost::extent& bounds) {
+    const auto found = oxhost::crs_for_gis(proj4, bounds);
+    if (!found) return {};
+    return oxhost::gis_system{found->name, found->wkt, found->epsg};
+}
+
+void tell(const std::string& line) { std::cerr << line << '\n'; }
+
 int run(int argc, char** argv) {
     settle_language(argc, argv);
     CLI::App app{words("Перепроецирование линий разрезов сцен профилей",
@@ -38,7 +49,7 @@ int run(int argc, char** argv) {
     add_language(app);
     action chosen;
     for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
-                           add_catalogue, add_utilities})
+                           add_catalogue, add_undo, add_utilities})
         add(app, chosen);
     try {
         app.parse(argc, argv);
@@ -59,6 +70,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     ox::on_border_fault = oxhost::tell_fault;  // that of the shell, which is part of this program
+    oxhost::use_gis_directory({look_up, tell});
     // Characters and messages follow the locale; numbers never do.
     std::setlocale(LC_CTYPE, "");
     std::setlocale(LC_MESSAGES, "");

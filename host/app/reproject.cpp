@@ -126,6 +126,9 @@ void add_reproject(CLI::App& app, action& chosen) {
                      "After a failed scene: stop (default), skip it and go on, or rollback all")
         ->type_name("stop|skip|rollback")
         ->transform(CLI::CheckedTransformer(policies).description(""));
+    command->add_flag("--no-undo", wanted.no_undo,
+                      std::string(in_language("Не хранить прежние линии: запуск нельзя будет отменить",
+                                              "Keep no former lines: the run cannot be undone")));
     command->add_option("--report", options->report, "What became of each scene, as JSON")
         ->type_name("FILE.json");
     command->add_option("--map", options->map, "A picture of the lines before and after")

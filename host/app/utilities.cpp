@@ -40,12 +40,16 @@ exit_code run_on(project* opened, shell::bundle_host& host, const utilities_opti
     auto results = run::before_run(opened ? run::listed_scenes(*opened) : std::vector<scene*>{});
     {
         const served_project serving(opened);
+        if (opened) opened->begin_run({options.run, {}}, run_records::kept);
         host.run(options.run);
     }
     read_journal(results, {}, 0);
     for (const run::scene_result& each : results)
         if (each.failure) std::cerr << failure_line(each) << '\n';
-    if (opened) opened->close();
+    if (opened) {
+        opened->end_run();
+        opened->close();
+    }
     if (count(results, run::outcome::failed)) return exit_code::scene_failed;
     if (messages::instance().declined()) return exit_code::answered_no;
     const auto& shown = messages::instance().shown();

@@ -11,7 +11,8 @@ namespace {
 constexpr int first_value = 5;  // the parameter after the store's own four
 
 [[noreturn]] void cannot_add(const project& to, const sqlite::error& e) {
-    refuse(to.path(), "scenes cannot be added: " + explain(e));
+    refuse(to.path(),
+           std::string(in_language("сцены не добавлены: ", "scenes cannot be added: ")) + explain(e));
 }
 
 }  // namespace
@@ -80,12 +81,14 @@ void addition::add(const new_scene& scene) {
 void addition::commit() {
     try {
         insert_ = {};
+        to_.store_->layers.withdraw();
         allow_dimensions(to_.store_->db, heights_, measures_);
         change_->commit();
     } catch (const sqlite::error& e) {
         cannot_add(to_, e);
     }
     change_.reset();
+    to_.store_->layers.withdrawn();
     to_.store_->changed = true;
     to_.store_->fields = present_;
     for (scene& row : rows_) to_.store_->scenes.push_back(std::move(row));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/byte_view.h"
+#include "base/language.h"
 
 namespace oxhost {
 
@@ -53,34 +54,45 @@ struct geometry_type {
 std::string name_of_type(std::uint32_t code) {
     constexpr std::array names{"Geometry",   "Point",           "LineString",   "Polygon",
                                "MultiPoint", "MultiLineString", "MultiPolygon", "GeometryCollection"};
-    return code < names.size() ? names[code] : "geometry of type " + std::to_string(code);
+    return code < names.size()
+               ? names[code]
+               : std::string(in_language("типа ", "geometry of type ")) + std::to_string(code);
+}
+
+[[noreturn]] void refuse(std::string_view russian, std::string_view english) {
+    throw blob_error(std::string(in_language(russian, english)));
 }
 
 vertex_block open_blob(std::span<const std::byte> blob) try {
     byte_view view(blob);
     const auto magic = view.take(3);
-    if (magic[0] != letter_g || magic[1] != letter_p) throw blob_error("geometry is no GeoPackage blob");
-    if (magic[2] != std::byte{0}) throw blob_error("geometry has an unknown blob version");
+    if (magic[0] != letter_g || magic[1] != letter_p)
+        refuse("геометрия не в записи GeoPackage", "geometry is no GeoPackage blob");
+    if (magic[2] != std::byte{0})
+        refuse("неизвестная версия записи геометрии", "geometry has an unknown blob version");
     const unsigned flags = view.read_byte();
-    if (flags & flag_extended) throw blob_error("geometry is of an extended type");
+    if (flags & flag_extended) refuse("геометрия расширенного типа", "geometry is of an extended type");
     const unsigned envelope = (flags >> 1) & 7;
-    if (envelope >= envelope_sizes.size()) throw blob_error("geometry has an unknown kind of envelope");
+    if (envelope >= envelope_sizes.size())
+        refuse("неизвестный вид охвата геометрии", "geometry has an unknown kind of envelope");
     view.take(4);  // srs_id: the scene's projection is the text beside the line
     view.take(envelope_sizes[envelope]);
 
     const unsigned order_mark = view.read_byte();
-    if (order_mark > 1) throw blob_error("geometry has an unknown byte order");
+    if (order_mark > 1) refuse("неизвестный порядок байтов геометрии", "geometry has an unknown byte order");
     const std::endian order = order_mark == 1 ? std::endian::little : std::endian::big;
     const geometry_type type(view.read<std::uint32_t>(order));
     if (type.plain != wkb_line_string)
-        throw blob_error("geometry is a " + name_of_type(type.plain) + ", not a LineString");
+        throw blob_error(std::string(in_language("геометрия ", "geometry is a ")) + name_of_type(type.plain) +
+                         std::string(in_language(", а не LineString", ", not a LineString")));
     const std::size_t count = view.read<std::uint32_t>(order);
     const std::size_t size = vertex_size(type.heights, type.measures);
     if (view.rest().size() / size < count) throw cut_short();
-    if (view.rest().size() != count * size) throw blob_error("geometry has bytes after its end");
+    if (view.rest().size() != count * size)
+        refuse("лишние байты после геометрии", "geometry has bytes after its end");
     return {order, count, type.heights, type.measures, view};
 } catch (const cut_short&) {
-    throw blob_error("geometry is cut short");
+    refuse("геометрия обрезана", "geometry is cut short");
 }
 
 template <class T>

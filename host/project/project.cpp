@@ -30,17 +30,11 @@ sqlite::connection open_checked(const fs::path& file, open_mode mode) {
     return db;
 }
 
-void bind_line(sqlite::statement& update, int parameter, const std::optional<std::vector<std::byte>>& blob) {
-    if (blob)
-        update.bind(parameter, std::span<const std::byte>(*blob));
-    else
-        update.bind_null(parameter);
-}
-
 }  // namespace
 
 std::string name_of(const scene& named) {
-    return "scene " + std::to_string(named.index) + " \"" + named.caption + '"';
+    return std::string(in_language("сцена ", "scene ")) + std::to_string(named.index) + " \"" +
+           named.caption + '"';
 }
 
 project::project(std::unique_ptr<store> opened) : store_(std::move(opened)) { store_->load(*this); }
@@ -53,7 +47,7 @@ project::~project() {
 }
 
 std::unique_ptr<project> project::create(const fs::path& file) {
-    if (fs::exists(file)) refuse(file, "already exists");
+    if (fs::exists(file)) refuse(file, in_language("уже существует", "already exists"));
     auto made = std::make_unique<store>();
     made->file = file;
     made->mode = open_mode::read_write;
@@ -66,14 +60,14 @@ std::unique_ptr<project> project::create(const fs::path& file) {
     } catch (const sqlite::error& e) {
         std::error_code ignored;
         if (made && made->created) fs::remove(file, ignored);
-        refuse(file, "cannot be created: " + explain(e));
+        refuse(file, std::string(in_language("не удалось создать: ", "cannot be created: ")) + explain(e));
     }
 }
 
 std::unique_ptr<project> project::open(const fs::path& file, open_mode mode) {
     std::error_code ignored;
-    if (!fs::exists(file, ignored)) refuse(file, "no such file");
-    if (!fs::is_regular_file(file, ignored)) refuse(file, "is not a file");
+    if (!fs::exists(file, ignored)) refuse(file, in_language("нет такого файла", "no such file"));
+    if (!fs::is_regular_file(file, ignored)) refuse(file, in_language("не файл", "is not a file"));
     auto opened = std::make_unique<store>();
     opened->file = file;
     opened->mode = mode;
@@ -81,7 +75,8 @@ std::unique_ptr<project> project::open(const fs::path& file, open_mode mode) {
         opened->db = open_checked(file, mode);
         if (mode == open_mode::read_write) {
             opened->db = {fs::absolute(file), SQLITE_OPEN_READWRITE};
-            if (sqlite3_db_readonly(opened->db.get(), "main") == 1) refuse(file, "cannot be written");
+            if (sqlite3_db_readonly(opened->db.get(), "main") == 1)
+                refuse(file, in_language("запись невозможна", "cannot be written"));
             opened->lock();
             check(opened->db, file);
         } else if (mode == open_mode::scratch) {
@@ -99,7 +94,7 @@ std::unique_ptr<project> project::open(const fs::path& file, open_mode mode) {
 void project::close() { store_->close(); }
 
 void project::discard() {
-    store_->changed = false;
+    store_->discarded = true;
     store_->close();
     if (store_->created) fs::remove(store_->file);
 }
@@ -116,7 +111,8 @@ section_line project::read_line(const scene& subject) {
     try {
         if (store_->read_blob(subject)) decode_line(store_->buffer, line);
     } catch (const sqlite::error& e) {
-        refuse(subject, "line cannot be read: " + explain(e));
+        refuse(subject,
+               std::string(in_language("линия не читается: ", "line cannot be read: ")) + explain(e));
     } catch (const blob_error& e) {
         refuse(subject, e.what());
     }
@@ -129,13 +125,14 @@ std::vector<field_value> project::read_values(const scene& subject) {
     std::vector<field_value> values;
     if (fields().empty()) return values;
     try {
-        if (!store_->db.get()) refuse(path(), "is closed");
+        if (!store_->db.get()) refuse(path(), in_language("закрыт", "is closed"));
         const sqlite::statement& row = store_->select_attributes(subject);
         for (std::size_t i = 0; i < fields().size(); ++i)
             values.push_back(read_value(row, static_cast<int>(i)));
         store_->read_attributes.reset();
     } catch (const sqlite::error& e) {
-        refuse(subject, "attributes cannot be read: " + explain(e));
+        refuse(subject, std::string(in_language("атрибуты не читаются: ", "attributes cannot be read: ")) +
+                            explain(e));
     }
     return values;
 }
@@ -205,49 +202,6 @@ void project::append(std::span<const new_scene> added) {
     addition scenes(*this);
     for (const new_scene& each : added) scenes.add(each);
     scenes.commit();
-}
-
-scene_state project::state(std::size_t index) {
-    const scene* subject = at(index);
-    if (!subject) refuse(path(), "has no scene " + std::to_string(index));
-    scene_state now{index, subject->caption, subject->profile, subject->proj4, std::nullopt};
-    try {
-        if (store_->read_blob(*subject)) now.geometry = store_->buffer;
-    } catch (const sqlite::error& e) {
-        refuse(*subject, "line cannot be read: " + explain(e));
-    }
-    return now;
-}
-
-void project::restore(std::span<const scene_state> states) {
-    std::vector<std::optional<line_summary>> lines;
-    lines.reserve(states.size());
-    try {
-        store_->prepare_writing();
-        sqlite::transaction change(store_->db);
-        sqlite::statement update(store_->db,
-                                 "UPDATE scenes SET caption=?1, profile=?2, proj4=?3, geom=?4 WHERE fid=?5");
-        for (const scene_state& state : states) {
-            const scene* subject = at(state.index);
-            if (!subject) refuse(path(), "has no scene " + std::to_string(state.index));
-            lines.push_back(state.geometry ? std::optional(summarize_blob(*state.geometry)) : std::nullopt);
-            update.bind(1, state.caption).bind(2, std::int64_t{state.profile}).bind(3, state.proj4);
-            bind_line(update, 4, state.geometry);
-            update.bind(5, subject->row).run();
-        }
-        change.commit();
-    } catch (const sqlite::error& e) {
-        refuse(path(), "scenes cannot be restored: " + explain(e));
-    }
-    store_->changed = true;
-    for (std::size_t i = 0; i < states.size(); ++i) {
-        scene& subject = *at(states[i].index);
-        subject.caption = states[i].caption;
-        subject.profile = states[i].profile;
-        subject.proj4 = states[i].proj4;
-        subject.line = lines[i];
-        store_->lent.erase(&subject);
-    }
 }
 
 // ---- the one that is served

@@ -2,16 +2,17 @@
 /// A project: 2D scenes with their section lines, stored in one GeoPackage file.
 ///
 /// The table `scenes` has a row per scene: fid (order of the scenes), geom (LineString or NULL), caption,
-/// profile, proj4; further columns are attributes. GIS programs open it as a layer of undefined cartesian
-/// coordinates.
+/// profile, proj4; further columns are attributes. GIS programs open it as a layer of the projection that all
+/// lines share, or see a layer more per projection.
 ///
 /// Kill-safety and speed. The first change switches the file to SQLite's write-ahead log with
-/// synchronous=NORMAL, and every update bracket is one statement, hence one transaction of its own: a
+/// synchronous=NORMAL, and every update bracket is one transaction of its own: a
 /// commit is an append to PROJECT-wal without waiting for the disk, so ten thousand brackets cost little
 /// over one big update. A killed process leaves PROJECT-wal behind with all brackets committed so far;
 /// whoever opens the project next reads through it. A power cut may lose the last brackets, never halves of
 /// one. A clean close folds the log back and returns to journal_mode=DELETE: a single file remains. A
-/// project that was opened for writing but not changed keeps every byte.
+/// project that was opened for writing but not changed keeps every byte, unless its layers have to be set
+/// right, which a killed process leaves to the next.
 ///
 /// A project open for writing is locked exclusively, which also spares the log its shared-memory file;
 /// others are told that it is in use. Vertices stay in the file and are read one line at a time.
@@ -32,6 +33,7 @@
 #include "base/line.h"
 #include "project/fields.h"
 #include "project/line_blob.h"
+#include "project/undo.h"
 
 namespace oxhost {
 
@@ -66,15 +68,6 @@ struct new_scene {
         {};  ///< for the fields that the addition was told; missing ones are null
 };
 
-/// A scene as it was at one moment, to be put back by project::restore.
-struct scene_state {
-    std::size_t index;
-    std::string caption;
-    bool profile;
-    std::string proj4;
-    std::optional<std::vector<std::byte>> geometry;  ///< the blob as stored
-};
-
 enum class open_mode {
     read_write,
     read_only,  ///< not a byte changes; the scenes are those of the moment of opening
@@ -94,7 +87,7 @@ public:
     project(const project&) = delete;
     project& operator=(const project&) = delete;
 
-    /// Refreshes the layer's extent if anything changed, folds the log back, releases the file. Throws
+    /// Has the layers say what is true of the scenes, folds the log back, releases the file. Throws
     /// when that fails. Scenes stay readable as far as they are in memory.
     void close();
     /// Closes and deletes a project that `create` made: for a caller whose import failed.
@@ -138,9 +131,20 @@ public:
     /// Adds all scenes at the end, or none.
     void append(std::span<const new_scene> added);
 
-    scene_state state(std::size_t index);
-    /// Puts all states back, or none: one transaction.
-    void restore(std::span<const scene_state> states);
+    /// What is changed until end_run belongs to one run, which the file has from its first change on. Outside
+    /// a run nothing is kept of what a change replaces.
+    void begin_run(run_goal goal, run_records records);
+    void end_run();
+    /// Puts back all that the run has changed, ends it and leaves nothing of it; for one whose records are
+    /// kept at least until its end.
+    void roll_back_run();
+
+    /// Newest first.
+    std::vector<past_run> past_runs();
+    /// Takes back the newest run of which something can be, in one transaction. Scenes that something else
+    /// has changed since are left alone, unless they are to be overwritten, and the run then stays with them.
+    /// Nothing when there is no run.
+    std::optional<undone> undo(later_changes others);
 
 private:
     friend class addition;

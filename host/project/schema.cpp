@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "base/language.h"
+
 namespace oxhost {
 
 namespace {
@@ -43,6 +45,16 @@ INSERT INTO gpkg_contents (table_name, data_type, identifier, description, srs_i
 INSERT INTO gpkg_geometry_columns VALUES ('scenes', 'geom', 'LINESTRING', -1, 0, 0);
 )sql";
 
+/// GDAL lists every table that is no layer, unless the file speaks of tables without geometry; it does, by
+/// the name that GDAL gave to that.
+constexpr const char* extension_rows = R"sql(
+CREATE TABLE IF NOT EXISTS gpkg_extensions (
+  table_name TEXT, column_name TEXT, extension_name TEXT NOT NULL, definition TEXT NOT NULL, scope TEXT NOT NULL,
+  CONSTRAINT ge_tce UNIQUE (table_name, column_name, extension_name));
+INSERT INTO gpkg_extensions SELECT NULL, NULL, 'gdal_aspatial', 'http://gdal.org/geopackage_aspatial.html', 'read-write'
+  WHERE NOT EXISTS (SELECT 1 FROM gpkg_extensions WHERE extension_name='gdal_aspatial');
+)sql";
+
 enum class envelope_value { is_empty, min_x, max_x, min_y, max_y };
 
 template <envelope_value Asked>
@@ -72,19 +84,26 @@ void create_schema(sqlite::connection& db) {
 }
 
 std::string reason_to_refuse(sqlite::connection& db) {
+    const auto say = [](std::string_view russian, std::string_view english) {
+        return std::string(in_language(russian, english));
+    };
     constexpr auto geopackage = "1196444487";  // "GPKG"
-    if (db.ask("PRAGMA application_id") != geopackage) return "is no GeoPackage";
+    if (db.ask("PRAGMA application_id") != geopackage) return say("не GeoPackage", "is no GeoPackage");
     if (db.ask("SELECT count(*) FROM pragma_table_info('gpkg_geometry_columns')") == "0")
-        return "is a GeoPackage without layers, no project";
+        return say("GeoPackage без слоёв, не проект", "is a GeoPackage without layers, no project");
     if (db.ask(
             "SELECT count(*) FROM gpkg_geometry_columns WHERE table_name='scenes' AND column_name='geom'") ==
         "0")
-        return "is a GeoPackage, but no project: it has no layer 'scenes' with lines 'geom'";
+        return say("GeoPackage, но не проект: в нём нет слоя 'scenes' с линиями 'geom'",
+                   "is a GeoPackage, but no project: it has no layer 'scenes' with lines 'geom'");
     const std::string missing = db.ask(
         "WITH needed(name) AS (VALUES ('fid'), ('geom'), ('caption'), ('profile'), ('proj4'))"
         "SELECT group_concat(name, ', ') FROM needed WHERE name NOT IN (SELECT name FROM "
         "pragma_table_info('scenes'))");
-    return missing.empty() ? "" : "is a GeoPackage, but no project: its layer 'scenes' lacks " + missing;
+    if (missing.empty()) return {};
+    return say("GeoPackage, но не проект: в его слое 'scenes' нет ",
+               "is a GeoPackage, but no project: its layer 'scenes' lacks ") +
+           missing;
 }
 
 void register_envelope_functions(sqlite::connection& db) {
@@ -103,6 +122,16 @@ void allow_dimensions(sqlite::connection& db, bool heights, bool measures) {
     constexpr auto where = " WHERE table_name='scenes' AND column_name='geom'";  // 2: may have them
     if (heights) db.run((std::string("UPDATE gpkg_geometry_columns SET z=2") + where).c_str());
     if (measures) db.run((std::string("UPDATE gpkg_geometry_columns SET m=2") + where).c_str());
+}
+
+void register_own_table(sqlite::connection& db, std::string_view table) {
+    db.run(extension_rows);
+    sqlite::statement add(
+        db,
+        "INSERT INTO gpkg_extensions SELECT ?1, NULL, 'ox_project',"
+        " 'A table of the program oxhost, for its own use', 'read-write' WHERE NOT EXISTS"
+        " (SELECT 1 FROM gpkg_extensions WHERE table_name=?1 AND extension_name='ox_project')");
+    add.bind(1, table).run();
 }
 
 void refresh_layer(sqlite::connection& db, const extent& bounds) {

@@ -2,6 +2,7 @@
 /// The tables of a project file: GeoPackage's own and the layer of scenes.
 
 #include <string>
+#include <string_view>
 
 #include "project/line_blob.h"
 #include "project/sqlite.h"
@@ -20,6 +21,9 @@ void register_envelope_functions(sqlite::connection& db);
 
 /// From now on lines may have heights, or measures; what was allowed before stays so.
 void allow_dimensions(sqlite::connection& db, bool heights, bool measures);
+
+/// Has the file say that a table is the host's own, so that other programs leave it out of their layers.
+void register_own_table(sqlite::connection& db, std::string_view table);
 
 /// Records the layer's extent and the time of its last change.
 void refresh_layer(sqlite::connection& db, const extent& bounds);

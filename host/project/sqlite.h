@@ -59,6 +59,7 @@ public:
     bool step();
     void run();  ///< for statements that give no rows
     void reset();
+    explicit operator bool() const { return statement_ != nullptr; }
 
     std::int64_t integer(int column) const { return sqlite3_column_int64(statement_.get(), column); }
     double real(int column) const { return sqlite3_column_double(statement_.get(), column); }

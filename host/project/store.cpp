@@ -15,34 +15,38 @@ constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpo
 }  // namespace
 
 std::string explain(const sqlite::error& e) {
+    const auto say = [](std::string_view russian, std::string_view english) {
+        return std::string(in_language(russian, english));
+    };
     if (e.code == SQLITE_READONLY_ROLLBACK)
-        return "was left in the middle of a change, which opening it for writing undoes";
+        return say("остался посреди изменения; открытие для записи отменит его",
+                   "was left in the middle of a change, which opening it for writing undoes");
     switch (e.primary()) {
         case SQLITE_NOTADB:
-            return "is no SQLite database";
+            return say("не база данных SQLite", "is no SQLite database");
         case SQLITE_CORRUPT:
-            return std::string("is damaged (") + e.what() + ")";
+            return say("повреждён", "is damaged") + " (" + e.what() + ")";
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
-            return "is open in another program";
+            return say("открыт в другой программе", "is open in another program");
         case SQLITE_READONLY:
         case SQLITE_PERM:
-            return "cannot be written";
+            return say("запись невозможна", "cannot be written");
         case SQLITE_FULL:
-            return "no space left on the disk";
+            return say("на диске нет места", "no space left on the disk");
         case SQLITE_CANTOPEN:
-            return "cannot be opened";
+            return say("не открывается", "cannot be opened");
         default:
-            return e.what();
+            return say("отказ SQLite", "SQLite refuses") + " (" + e.what() + ")";
     }
 }
 
-void refuse(const std::filesystem::path& file, const std::string& reason) {
-    throw project_error(file.string() + ": " + reason);
+void refuse(const std::filesystem::path& file, std::string_view reason) {
+    throw project_error(file.string() + ": " + std::string(reason));
 }
 
-void refuse(const scene& concerned, const std::string& reason) {
-    refuse(concerned.owner->path(), name_of(concerned) + ": " + reason);
+void refuse(const scene& concerned, std::string_view reason) {
+    refuse(concerned.owner->path(), name_of(concerned) + ": " + std::string(reason));
 }
 
 void project::store::load(project& owner) {
@@ -63,6 +67,7 @@ void project::store::load(project& owner) {
             refuse(row, e.what());
         }
     }
+    layers.load();
     read_geometry = {db, "SELECT geom FROM scenes WHERE fid=?1"};
     write_line = {db, "UPDATE scenes SET geom=?2 WHERE fid=?1"};
     write_text = {db, "UPDATE scenes SET proj4=?3 WHERE fid=?1"};
@@ -77,18 +82,20 @@ void project::store::lock() {
 }
 
 void project::store::prepare_writing() {
-    if (!db.get()) refuse(file, "is closed");
-    if (mode == open_mode::read_only) refuse(file, "is open for reading only");
+    if (!db.get()) refuse(file, in_language("закрыт", "is closed"));
+    if (mode == open_mode::read_only)
+        refuse(file, in_language("открыт только для чтения", "is open for reading only"));
     if (mode == open_mode::scratch || logging) return;
     read_geometry.reset();  // the journal mode only changes while no statement runs
-    if (db.ask("PRAGMA journal_mode=WAL") != "wal") refuse(file, "cannot keep a write-ahead log");
+    if (db.ask("PRAGMA journal_mode=WAL") != "wal")
+        refuse(file, in_language("журнал записи не включается", "cannot keep a write-ahead log"));
     logging = true;
     db.run(log_settings);
 }
 
 /// The stored geometry in `buffer`; false when there is none.
 bool project::store::read_blob(const scene& subject) {
-    if (!db.get()) refuse(file, "is closed");
+    if (!db.get()) refuse(file, in_language("закрыт", "is closed"));
     read_geometry.bind(1, subject.row);
     const bool found = read_geometry.step() && !read_geometry.is_null(0);
     if (found) {
@@ -111,11 +118,26 @@ const sqlite::statement& project::store::select_attributes(const scene& subject)
     return read_attributes;
 }
 
+/// Of the scene with a new line or text, or as the file has it.
+std::int64_t project::store::digest_with(const scene& subject, const section_line* line,
+                                         const std::string* text) {
+    section_line stored;
+    if (!line && subject.line && read_blob(subject)) {
+        decode_line(buffer, stored);
+        line = &stored;
+    }
+    return digest_of(line, text ? *text : subject.proj4);
+}
+
 void project::store::write(scene& subject, const section_line* line, const std::string* text) {
     last = {};
     if (!line && !text) return;
     try {
         prepare_writing();
+        std::optional<sqlite::transaction> together;  // a lone update needs none
+        if (runs.writes() || layers.published()) together.emplace(db);
+        if (runs.writes()) runs.note(subject.row, digest_with(subject, line, text));
+        layers.withdraw();
         sqlite::statement& update = line && text ? write_both : line ? write_line : write_text;
         update.bind(1, subject.row);
         if (line) {
@@ -124,9 +146,15 @@ void project::store::write(scene& subject, const section_line* line, const std::
         }
         if (text) update.bind(3, *text);
         update.run();
+        if (together) together->commit();
+    } catch (const blob_error& e) {
+        refuse(subject, e.what());
     } catch (const sqlite::error& e) {
-        refuse(subject, "cannot be stored: " + explain(e));
+        refuse(subject,
+               std::string(in_language("не удалось сохранить: ", "cannot be stored: ")) + explain(e));
     }
+    runs.noted();
+    layers.withdrawn();
     changed = true;
     last = {.line = line != nullptr, .text = text != nullptr};
     lent.erase(&subject);
@@ -140,25 +168,27 @@ void project::store::close() {
     lent.clear();
     std::string failure;
     std::error_code ignored;
-    try {
-        if (changed && mode == open_mode::read_write) {
-            extent bounds;
-            for (const scene& each : scenes)
-                if (each.line) bounds.add(each.line->bounds);
-            refresh_layer(db, bounds);
-        }
+    const auto release_statements = [&] {
         for (sqlite::statement* each :
              {&read_geometry, &read_attributes, &write_line, &write_text, &write_both})
             *each = {};
+        runs.close();
+    };
+    const auto stays = [] {
+        return std::string(
+            in_language("изменения остались в журнале рядом с ним", "its changes stay in the log beside it"));
+    };
+    try {
+        if (mode == open_mode::read_write && !discarded) layers.publish(scenes, changed, file);
+        release_statements();
         if (logging && db.ask("PRAGMA journal_mode=DELETE") != "delete")
-            failure = "its changes stay in the log beside it";
+            failure = stays();
         else if (logging)  // a reader of the log that a killed process left has left this one
             std::filesystem::remove(file.string() + "-shm", ignored);
     } catch (const sqlite::error& e) {
-        failure = "its changes stay in the log beside it: " + explain(e);
+        failure = stays() + ": " + explain(e);
     }
-    for (sqlite::statement* each : {&read_geometry, &read_attributes, &write_line, &write_text, &write_both})
-        *each = {};
+    release_statements();
     db.close();
     if (!failure.empty()) refuse(file, failure);
 }

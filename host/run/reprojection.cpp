@@ -40,6 +40,11 @@ bool has_changed(const scene_result& result) {
            result.came_to == outcome::reset;
 }
 
+run_records records_for(const order& wanted) {
+    if (!wanted.no_undo && !wanted.dry_run) return run_records::kept;
+    return wanted.policy == on_error::rollback ? run_records::until_end : run_records::none;
+}
+
 /// Scenes for another try: all that the last one did not reach.
 std::vector<scene*> not_attempted(const std::vector<scene_result>& results) {
     std::vector<scene*> left;
@@ -61,8 +66,7 @@ reprojection::reprojection(order wanted)
 
 void reprojection::perform(const failure_listener& tell) {
     before_ = kept_lines();
-    if (order_.policy == on_error::rollback)
-        for (const scene* each : scenes_) states_.push_back(project_->state(each->index));
+    project_->begin_run({goal_.given, goal_.proj4}, records_for(order_));
     messages::instance().forget();
     journal::instance().clear();
     std::size_t seen = 0;
@@ -84,10 +88,7 @@ bool reprojection::interrupted() const {
 void reprojection::roll_back_if_failed() {
     const bool failed = count(results_, outcome::failed) > 0 || interrupted();
     if (order_.policy != on_error::rollback || !failed) return;
-    std::vector<scene_state> changed;
-    for (std::size_t i = 0; i < results_.size(); ++i)
-        if (has_changed(results_[i])) changed.push_back(states_[i]);
-    if (!changed.empty()) project_->restore(changed);
+    project_->roll_back_run();
     for (scene_result& each : results_) {
         if (!has_changed(each)) continue;
         each.rolled_back = true;
@@ -97,7 +98,10 @@ void reprojection::roll_back_if_failed() {
 
 record reprojection::told() { return {order_, goal_, warnings_, results_, before_, kept_lines()}; }
 
-void reprojection::close() { project_->close(); }
+void reprojection::close() {
+    project_->end_run();
+    project_->close();
+}
 
 std::vector<polyline> reprojection::kept_lines() {
     std::vector<polyline> lines;

@@ -33,6 +33,8 @@ struct order {
     on_error policy = on_error::stop;
     bool keep_lines = false;   ///< the record is to have the lines before and after
     reprojection_rules rules;  ///< for every line of this process from then on
+    bool no_undo = false;  ///< keep nothing by which the run could be undone, nor what earlier runs have kept
+    bool keep_lines = false;  ///< the record is to have the lines before and after
     std::filesystem::path bundle;
 };
 
@@ -87,7 +89,6 @@ private:
     std::vector<scene_result> results_;
     std::vector<std::string> warnings_;
     std::vector<polyline> before_;
-    std::vector<scene_state> states_;  ///< kept for a rollback
 };
 
 }  // namespace oxhost::run

@@ -88,7 +88,7 @@ TEST_CASES_F(Store, Untouched, EveryByte, visit, {"ReadOnly", open_mode::read_on
         if (c.changes) {
             opened->set_proj4(*opened->at(0), "new");
             opened->append(sample_scenes);
-            EXPECT_EQ(opened->state(0).proj4, "new");
+            EXPECT_EQ(opened->at(0)->proj4, "new");
         }
     }
     EXPECT_TRUE(bytes_of(file_) == before);
@@ -144,14 +144,35 @@ TEST_F(Store, FullDiskLeavesTheSceneAsItWas) {
     EXPECT_EQ(open_project(open_mode::read_only)->at(0)->proj4, "later");
 }
 
-TEST_F(Store, RestorePutsBackToTheByte) {
+struct records_case {
+    const char* name;
+    run_records records;
+    std::size_t runs_left;  ///< of the two: one before that is kept, and one with these records
+};
+TEST_CASES_F(Store, Run, KeepsWhatItIsToldTo, records_case, {"Kept", run_records::kept, 2},
+             {"UntilEnd", run_records::until_end, 1}, {"None", run_records::none, 1}) {
     auto opened = open_project();
-    const std::vector<scene_state> before{opened->state(0), opened->state(2)};
+    opened->begin_run({"first", "text"}, run_records::kept);
+    opened->set_proj4(*opened->at(0), "1");
+    opened->set_proj4(*opened->at(1), "1");
+    opened->begin_run({"second", "text"}, c.records);
+    opened->set_line(*opened->at(0), polyline{{9, 9}});
+    opened->set_proj4(*opened->at(0), "2");
+    opened->end_run();
+    opened->set_proj4(*opened->at(2), "no run");
+    const auto runs = opened->past_runs();
+    ASSERT_EQ(runs.size(), c.runs_left);
+    EXPECT_EQ(runs.back().scenes, c.records == run_records::kept ? 2U : 1U) << "the scene's records are gone";
+}
+
+TEST_F(Store, RollBackLeavesNothingOfARun) {
+    auto opened = open_project();
+    opened->begin_run({"run", ""}, run_records::kept);
     opened->set_line(*opened->at(0), polyline{{9, 9}});
     opened->set_proj4(*opened->at(2), "new");
-    opened->restore(before);
-    EXPECT_EQ(opened->state(0).geometry, before[0].geometry);
+    opened->roll_back_run();
     expect_scenes(*opened, sample_scenes);
+    EXPECT_TRUE(opened->past_runs().empty());
     opened->close();
     expect_stored(sample_scenes);
 }
