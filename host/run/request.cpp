@@ -102,6 +102,12 @@ std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mo
     throw failure(only_writing_fails ? trouble::refused : trouble::unreadable, error.what());
 }
 
+std::vector<scene*> all_scenes(project& opened) {
+    std::vector<scene*> all;
+    for (std::size_t i = 0; i < opened.size(); ++i) all.push_back(opened.at(i));
+    return all;
+}
+
 std::vector<scene*> listed_scenes(project& opened) {
     std::vector<scene*> listed;
     for (std::size_t i = 0; i < opened.size(); ++i)
@@ -109,11 +115,11 @@ std::vector<scene*> listed_scenes(project& opened) {
     return listed;
 }
 
-std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted) {
+std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted, bool only_listed) {
     std::set<std::size_t> indexes;
     for (const std::string& each : wanted) {
         const scene& found = find(opened, each);
-        if (!is_listed(found)) refuse(opened, name_of(found) + " is no profile with a line");
+        if (only_listed && !is_listed(found)) refuse(opened, name_of(found) + " is no profile with a line");
         indexes.insert(found.index);
     }
     std::vector<scene*> selected;

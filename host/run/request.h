@@ -47,8 +47,11 @@ std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mo
 /// The scenes that the plug-in's dialog lists: profiles that have a line, in project order.
 std::vector<scene*> listed_scenes(project& opened);
 
+std::vector<scene*> all_scenes(project& opened);
+
 /// Scenes by index or caption, each once, in project order. Throws `failure` (refused) for one that is not
-/// there, a caption of several scenes, or a scene that is no profile.
-std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted);
+/// there, a caption of several scenes, or one that is not listed where `only_listed` are asked for.
+std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted,
+                                  bool only_listed = true);
 
 }  // namespace oxhost::run
