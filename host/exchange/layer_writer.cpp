@@ -2,7 +2,7 @@
 #include <ogrsf_frmts.h>
 
 #include "base/language.h"
-#include "exchange/attributes.h"
+#include "exchange/layer_attributes.h"
 #include "exchange/gdal.h"
 #include "exchange/writers.h"
 

@@ -71,7 +71,7 @@ private:
     }
 
     std::size_t add_layer(const std::string& proj4) {
-        plan_.layers.push_back({{}, proj4});
+        plan_.layers.emplace_back().proj4 = proj4;
         return plan_.layers.size() - 1;
     }
 

@@ -1,4 +1,4 @@
-#include "exchange/attributes.h"
+#include "exchange/layer_attributes.h"
 
 #include <ogrsf_frmts.h>
 
