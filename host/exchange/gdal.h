@@ -9,8 +9,8 @@
 
 namespace oxhost {
 
-import_counts import_file(const std::filesystem::path& source, const import_options& options,
-                          const std::function<void(new_scene&&)>& sink);
+import_report import_file(const std::filesystem::path& source, const import_options& options,
+                          scene_taker& taker);
 std::vector<std::string> export_to_file(const export_order& order);
 
 /// GDAL reports through a handler of the process; while a guard lives, it keeps the reports to itself.
@@ -22,12 +22,20 @@ public:
     gdal_guard& operator=(const gdal_guard&) = delete;
 
     /// Whether GDAL reported an error, not just a warning, since the guard was made.
-    bool failed() const { return !failure_.empty(); }
+    bool failed() const { return !kept_.failure.empty(); }
+    /// The first warning, and how many more there were; empty without one.
+    std::string warnings() const;
     /// Throws exchange_error: file, what we say, what GDAL said first.
     [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& what) const;
 
+    struct reports {
+        std::string failure;  ///< the first one: later ones follow from it
+        std::string warning;  ///< the first one
+        std::size_t warnings = 0;
+    };
+
 private:
-    std::string failure_;  ///< the first one: later ones follow from it
+    reports kept_;
 };
 
 }  // namespace oxhost

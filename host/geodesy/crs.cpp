@@ -20,6 +20,9 @@ constexpr std::array<const char*, 7> uncompared{"axis",   "over", "geoc", "nadgr
 /// Keys that together give the ellipsoid.
 constexpr std::array<const char*, 8> shape_keys{"ellps", "a", "b", "R", "rf", "f", "es", "e"};
 
+/// Metres. The ellipsoids of systems that are taken as equal to WGS 84 differ by up to a metre.
+constexpr double wgs84_axis = 6378137;
+
 using canonical_keys = std::map<std::string, std::string>;
 
 /// What goes to PROJ: one spelling of each datum, so that a named datum means its shift and not
@@ -166,8 +169,12 @@ pj_ptr geographic_base(const PJ* crs_object) {
 }
 
 bool has_datum(const crs& system) {
-    return std::ranges::any_of(std::array{"towgs84", "datum", "nadgrids", "init"},
-                               [&](const char* key) { return system.tokens.has(key); });
+    const auto given = [&](const char* key) { return system.tokens.has(key); };
+    if (given("datum") || given("nadgrids") || given("init")) return true;
+    const auto shift = system.tokens.shift();
+    if (!shift || !std::ranges::all_of(*shift, [](double value) { return value == 0; }))
+        return given("towgs84");
+    return system.valid() && std::abs(ellipsoid_of(system.object.get()).a - wgs84_axis) < 1.5;
 }
 
 }  // namespace oxhost

@@ -46,7 +46,8 @@ ellipsoid ellipsoid_of(const PJ* crs_object);
 /// The geographic system under a CRS: longitude, latitude in degrees on its own datum.
 pj_ptr geographic_base(const PJ* crs_object);
 
-/// Is there a way from this text to WGS 84: a shift, a grid or a datum PROJ knows?
+/// Is there a way from this text to WGS 84: a shift, a grid or a datum PROJ knows? A shift of nothing but
+/// zeros is one only on an ellipsoid like that of WGS 84.
 bool has_datum(const crs& system);
 
 }  // namespace oxhost

@@ -6,6 +6,7 @@
 #include <proj_experimental.h>
 
 #include "base/text.h"
+#include "geodesy/place.h"
 #include "geodesy/published_shifts.h"
 
 namespace oxhost {
@@ -22,28 +23,9 @@ pj_ptr horizontal(const PJ* crs_object) {
     return part;
 }
 
-/// Longitude, latitude in the middle of the area of use.
-std::optional<point> middle(const PJ* system) {
-    double west = 0, south = 0, east = 0, north = 0;
-    if (!system || !proj_get_area_of_use(proj_context(), system, &west, &south, &east, &north, nullptr))
-        return {};
-    if (west < -1000) return {};  // PROJ's mark for an unknown area
-    if (east < west) east += 360;
-    return point{(west + east) / 2, (south + north) / 2};
-}
-
-/// The EPSG system that a definition without code, such as a projection file's, names.
-pj_ptr recognised(const PJ* system) {
-    int* confidence = nullptr;
-    const pj_list_ptr found(proj_identify(proj_context(), system, "EPSG", nullptr, &confidence));
-    const bool sure = found && proj_list_get_count(found.get()) > 0 && confidence[0] >= 90;
-    proj_int_list_destroy(confidence);
-    return pj_ptr(sure ? proj_list_get(proj_context(), found.get(), 0) : nullptr);
-}
-
 /// The system whose area of use and datum decide on the shift: itself, the one it names, or its datum's.
 pj_ptr with_area(pj_ptr system) {
-    if (middle(system.get())) return system;
+    if (area_of(system.get())) return system;
     if (pj_ptr named = recognised(system.get())) return named;
     const pj_ptr base = geographic_base(system.get());
     pj_ptr named_base = base ? recognised(base.get()) : nullptr;
@@ -63,7 +45,7 @@ std::optional<std::string> proj4_of(const PJ* crs_object) {
     if (!bound && !text.has("datum") && !text.has("nadgrids")) {
         const pj_ptr known = with_area(pj_ptr(proj_clone(proj_context(), system.get())));
         const auto shifts = published_shifts(known.get());
-        if (const auto* shift = best_shift(shifts, middle(known.get()).value_or(point{NAN, NAN}))) {
+        if (const auto* shift = best_shift(shifts, area_of_use(known.get()).middle())) {
             text.set_shift(shift->values);
         }
     }
@@ -72,17 +54,23 @@ std::optional<std::string> proj4_of(const PJ* crs_object) {
     return result;
 }
 
+pj_ptr horizontal_system(const std::string& name) {
+    const pj_ptr system(proj_create(proj_context(), name.c_str()));
+    take_proj_complaint();
+    if (!system || !proj_is_crs(system.get())) return nullptr;
+    // PROJ also takes the beginning of a name for the name.
+    const bool spelled_out = name.find_first_of(":[{=") != name.npos;
+    if (!spelled_out && lower(name) != lower(proj_get_name(system.get()))) return nullptr;
+    return horizontal(system.get());
+}
+
 std::optional<std::string> import_crs(std::string_view identifier) {
     const std::string name(trimmed(identifier));
     if (name.empty()) return {};
     const proj4_text tokens(name);
     if (tokens.has("proj")) return crs_of(name)->valid() ? std::optional(name) : std::nullopt;
-    const pj_ptr system(proj_create(proj_context(), name.c_str()));
-    take_proj_complaint();
-    if (!system || !proj_is_crs(system.get())) return {};
-    // PROJ also takes the beginning of a name for the name.
-    const bool spelled_out = name.find_first_of(":[{=") != name.npos;
-    if (!spelled_out && lower(name) != lower(proj_get_name(system.get()))) return {};
+    const pj_ptr system = horizontal_system(name);
+    if (!system) return {};
     return proj4_of(system.get());
 }
 

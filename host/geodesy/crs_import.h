@@ -15,6 +15,9 @@ namespace oxhost {
 /// text (which comes back trimmed). Nothing when it is unknown or no 2D map or lon/lat system.
 std::optional<std::string> import_crs(std::string_view identifier);
 
+/// The horizontal, two-dimensional part of what the identifier names; null as above, and for a proj4 text.
+pj_ptr horizontal_system(const std::string& identifier);
+
 /// The same for a CRS at hand.
 std::optional<std::string> proj4_of(const PJ* crs_object);
 

@@ -27,12 +27,14 @@ addition::addition(project& to) : to_(to) {
     take_fields({});
 }
 
+addition::~addition() = default;
+
 std::vector<std::string> addition::take_fields(std::span<const field> fields) {
     std::vector<std::string> names;
     std::string columns, parameters;
     try {
         for (const field& each : fields) {
-            const std::string& name = names.emplace_back(add_field(to_.store_->db, present_, each));
+            const std::string& name = names.emplace_back(add_field(to_.store_->db, present_, each, names));
             columns += ", " + as_identifier(name);
             parameters += ", ?" + std::to_string(first_value - 1 + static_cast<int>(names.size()));
         }

@@ -22,6 +22,7 @@ namespace oxhost {
 class addition {
 public:
     explicit addition(project& to);
+    ~addition();
     addition(const addition&) = delete;
     addition& operator=(const addition&) = delete;
 

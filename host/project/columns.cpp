@@ -61,12 +61,14 @@ std::vector<field> read_fields(sqlite::connection& db) {
     return found;
 }
 
-std::string add_field(sqlite::connection& db, std::vector<field>& present, const field& wanted) {
+std::string add_field(sqlite::connection& db, std::vector<field>& present, const field& wanted,
+                      std::span<const std::string> taken) {
     field made = wanted;
     for (int number = 1;; ++number) {
         const auto named = [&](const field& each) { return same_name(each.name, made.name); };
         const auto there = std::ranges::find_if(present, named);
-        if (there != present.end() && there->type == wanted.type) return there->name;
+        const bool free = there != present.end() && std::ranges::find(taken, there->name) == taken.end();
+        if (free && there->type == wanted.type) return there->name;
         if (there == present.end() && !is_own(made.name) && !made.name.empty()) break;
         made.name = wanted.name + '_' + std::to_string(number);
     }

@@ -71,23 +71,22 @@ void expect_near(const std::vector<vertex>& found, const std::vector<vertex>& ex
     }
 }
 
-constexpr auto survey = R"csv(WKT,caption,profile,proj4,depth_to_basement,depth_to_moho,open,shot,logged,note
-"LINESTRING ZM (56.9 55 100.5 0,57.1 55.1 101 10.25,57.2 55 102 20)",A-A',1,@,1234.5678901234,5000000000,1,2026-11-23,2026-11-23T21:30:00.250Z,"Сквозной, ""верхний"""
-"LINESTRING (58 55,58.1 55.1)",B,1,@,-0.1,,0,,,
-"LINESTRING M (59 55 1,59.1 55.1 2.5)",C,1,@,,7,,,,x
+constexpr auto survey = R"csv(WKT,caption,depth_to_basement,depth_to_moho,open,shot,logged,note
+"LINESTRING ZM (56.9 55 100.5 0,57.1 55.1 101 10.25,57.2 55 102 20)",A-A',1234.5678901234,5000000000,1,2026-11-23,2026-11-23T21:30:00.250Z,"Сквозной, ""верхний"""
+"LINESTRING (58 55,58.1 55.1)",B,-0.1,,0,,,
+"LINESTRING M (59 55 1,59.1 55.1 2.5)",C,,7,,,,x
 )csv";
-constexpr auto survey_types =
-    "String,Integer(Boolean),String,Real,Integer64,Integer(Boolean),Date,DateTime,String";
+constexpr auto survey_types = "String,String,Real,Integer64,Integer(Boolean),Date,DateTime,String";
 
-/// Makes p.gpkg of the survey, by ogr2ogr.
+/// Makes survey.gpkg, by ogr2ogr, and imports it.
 void make_survey(const sandbox& box) {
-    std::string csv = survey;
-    for (auto at = csv.find('@'); at != csv.npos; at = csv.find('@')) csv.replace(at, 1, wgs84);
-    box.write("survey.csv", csv);
-    box.write("survey.csvt", std::string("String,") + survey_types);
+    box.write("survey.csv", survey);
+    box.write("survey.csvt", survey_types);
     said(box,
-         "ogr2ogr -f GPKG p.gpkg survey.csv -nln scenes -nlt GEOMETRY -lco GEOMETRY_NAME=geom "
-         "-a_srs EPSG:4326 -unsetFieldWidth -oo KEEP_GEOM_COLUMNS=NO -oo EMPTY_STRING_AS_NULL=YES");
+         "ogr2ogr -f GPKG survey.gpkg survey.csv -nlt GEOMETRY -a_srs EPSG:4326 -unsetFieldWidth "
+         "-oo KEEP_GEOM_COLUMNS=NO -oo EMPTY_STRING_AS_NULL=YES");
+    const auto run = box.oxhost({"import", "p.gpkg", "survey.gpkg"});
+    ASSERT_EQ(run.code, 0) << run.error;
 }
 
 constexpr auto attributes = "SELECT caption,depth_to_basement,depth_to_moho,open,shot,logged,note FROM ";
@@ -95,8 +94,8 @@ constexpr auto attributes = "SELECT caption,depth_to_basement,depth_to_moho,open
 TEST(Export, BringsASurveyBackAfterTwoRuns) {
     const sandbox box;
     make_survey(box);
-    const std::string values = table(box, "p.gpkg", std::string("-sql '") + attributes + "scenes'");
-    const auto places = vertices(table(box, "p.gpkg", "-lco GEOMETRY=AS_WKT"));
+    const std::string values = table(box, "survey.gpkg", std::string("-sql '") + attributes + "survey'");
+    const auto places = vertices(table(box, "survey.gpkg", "-lco GEOMETRY=AS_WKT"));
     ASSERT_EQ(places.size(), 7U);
     for (const char* target : {utm40, gauss_kruger_10}) {
         const auto run = box.oxhost({"reproject", "p.gpkg", "--to", target, "--all", "--yes"});
@@ -124,7 +123,7 @@ TEST_CASES(ExportCrs, PutsLinesInTheirPlace, case_of<const char*>,
            {"ShapefileOfACode", "o.shp", "EPSG:32640"}, {"GeoJsonAsItsStandardSays", "o.geojson", nullptr}) {
     const sandbox box;
     make_survey(box);
-    const auto places = vertices(table(box, "p.gpkg", "-lco GEOMETRY=AS_WKT"));
+    const auto places = vertices(table(box, "survey.gpkg", "-lco GEOMETRY=AS_WKT"));
     ASSERT_EQ(box.oxhost({"reproject", "p.gpkg", "--to", utm40, "--all", "--yes"}).code, 0);
     std::vector<std::string> command{"export", "p.gpkg", c.given};
     if (c.expected) command.insert(command.end(), {"--to", c.expected});
