@@ -91,6 +91,27 @@ std::optional<int> descriptor_of(const fs::path& file) {
     return {};
 }
 
+/// A stream as a descriptor to write to.
+class open_stream {
+public:
+    explicit open_stream(const fs::path& file) : given_(descriptor_of(file)) {
+        std::cout.flush();
+        handle_ = given_ ? *given_ : open(file.c_str(), O_WRONLY | O_CLOEXEC);
+        if (handle_ < 0) fail(file, cannot_write());
+    }
+    ~open_stream() {
+        if (!given_) close(handle_);
+    }
+    open_stream(const open_stream&) = delete;
+    open_stream& operator=(const open_stream&) = delete;
+
+    int handle() const { return handle_; }
+
+private:
+    std::optional<int> given_;
+    int handle_;
+};
+
 }  // namespace
 
 bool is_stream(const fs::path& file) {
@@ -149,13 +170,19 @@ void check_writable(const fs::path& file) {
 }
 
 void write_output(const fs::path& file, std::string_view content) {
-    if (const auto descriptor = descriptor_of(file)) {
-        std::cout.flush();
-        return write_all(*descriptor, file, content);
-    }
     if (!is_stream(file)) return replace_file(file, content);
-    std::ofstream out(file, std::ios::binary);
-    if (!(out << content << std::flush)) fail(file, cannot_write());
+    const open_stream stream(file);
+    write_all(stream.handle(), file, content);
+}
+
+void copy_into_stream(const fs::path& file, const fs::path& stream) {
+    constexpr std::size_t part = 1 << 20;
+    std::ifstream content(file, std::ios::binary);
+    const open_stream to(stream);
+    std::string buffer(part, '\0');
+    while (content.read(buffer.data(), part), content.gcount() > 0)
+        write_all(to.handle(), stream,
+                  std::string_view(buffer).substr(0, static_cast<std::size_t>(content.gcount())));
 }
 
 temporary_folder::temporary_folder(const fs::path& pattern) {
@@ -166,7 +193,7 @@ temporary_folder::temporary_folder(const fs::path& pattern) {
 
 temporary_folder::~temporary_folder() {
     std::error_code ignored;
-    fs::remove_all(path_, ignored);
+    if (!path_.empty()) fs::remove_all(path_, ignored);
 }
 
 }  // namespace oxhost

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace oxhost {
 
@@ -35,6 +36,9 @@ void check_writable(const std::filesystem::path& file);
 /// Replaces the file, or writes into a stream. Throws file_error.
 void write_output(const std::filesystem::path& file, std::string_view content);
 
+/// Writes the file's content into a stream. Throws file_error.
+void copy_into_stream(const std::filesystem::path& file, const std::filesystem::path& stream);
+
 /// An empty folder of one's own that vanishes with its content.
 class temporary_folder {
 public:
@@ -46,6 +50,8 @@ public:
     temporary_folder& operator=(const temporary_folder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
+    /// Leaves the folder to the user; answers where it is.
+    std::filesystem::path keep() { return std::exchange(path_, {}); }
     std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
 
 private:

@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "exchange/export_order.h"
 #include "project/project.h"
 
 namespace oxhost {
@@ -78,13 +79,10 @@ public:
     virtual import_report import_lines(const std::filesystem::path& source, const import_options& options,
                                        scene_taker& taker) = 0;
 
-    /// Writes what `next` gives until it gives nothing to `out` (.geojson, .json, .gpkg, .shp), with fields
-    /// caption, profile, proj4. `crs` is the proj4 text of all lines, to be the layer's coordinate
-    /// system; empty when the scenes keep their own. An existing file is replaced after all went well;
-    /// `project_file`, the project that the scenes come from, is refused as output.
-    virtual void export_lines(const std::filesystem::path& out, const std::filesystem::path& project_file,
-                              const std::string& crs,
-                              const std::function<std::optional<new_scene>()>& next) = 0;
+    /// Writes the scenes with fields caption, profile, proj4 and those of the order. What stood in the file's
+    /// place is replaced after all went well, and comes back when the replacing fails half-way. Answers what
+    /// the format has changed or left out, one line each.
+    virtual std::vector<std::string> export_lines(const export_order& order) = 0;
 };
 
 /// Throws exchange_error when the library beside this one cannot be loaded. Never unloaded.

@@ -1,7 +1,7 @@
-#include <vector>
-
 #include "base/files.h"
-#include "base/text.h"
+#include "base/language.h"
+#include "exchange/delivery.h"
+#include "exchange/formats.h"
 #include "exchange/gdal.h"
 #include "exchange/writers.h"
 
@@ -11,68 +11,51 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t dbase_text_width = 254;  // bytes; longer texts would be cut
-
-enum class format { geojson, geopackage, shapefile };
-
-format format_of(const fs::path& out) {
-    const std::string extension = lower(out.extension().string());
-    if (extension == ".geojson" || extension == ".json") return format::geojson;
-    if (extension == ".gpkg") return format::geopackage;
-    if (extension == ".shp") return format::shapefile;
-    throw exchange_error(out.string() + ": unknown format; write .geojson, .gpkg or .shp");
+std::string words(std::string_view russian, std::string_view english) {
+    return std::string(in_language(russian, english));
 }
 
-std::unique_ptr<line_writer> open_writer(format kind, const fs::path& out, const fs::path& file,
-                                         const std::string& crs) {
-    switch (kind) {
-        case format::geojson:
-            return write_geojson(out, file);
-        case format::geopackage:
-            return write_layer(out, file, "GPKG", 0, crs);
-        case format::shapefile:
-            return write_layer(out, file, "ESRI Shapefile", dbase_text_width, crs);
-    }
-    return nullptr;
+std::unique_ptr<line_writer> open_writer(const export_order& order, export_format format,
+                                         const fs::path& file, losses& lost) {
+    if (format == export_format::geojson) return write_geojson(order, file, lost);
+    return write_layers(order, file, format, lost);
 }
 
-/// Moves what was written in a folder beside the output into its place. A shapefile is several files of one
-/// stem: older ones that the new set may lack go first.
-void deliver(const temporary_folder& made, const fs::path& out, format kind) {
-    if (kind == format::shapefile)
-        for (const char* side : {".prj", ".cpg", ".qpj", ".qix", ".sbn", ".sbx"})
-            fs::remove(fs::path(out).replace_extension(side));
-    std::vector<fs::path> files;
-    for (const auto& entry : fs::directory_iterator(made.path())) files.push_back(entry.path());
-    for (const fs::path& each : files) fs::rename(each, fs::path(out).replace_filename(each.filename()));
-}
-
-/// Whether `out` may be replaced at all.
-void check_output(const fs::path& out, const fs::path& project_file) {
-    std::error_code ignored;
-    if (fs::equivalent(out, project_file, ignored))
-        throw exchange_error(out.string() + ": is the project itself");
-    if (fs::exists(out) && !fs::is_regular_file(out)) throw exchange_error(out.string() + ": is not a file");
-    for (const char* side : {"-wal", "-journal"})  // a log left beside a new database would be applied to it
+/// A log left beside a new database would be applied to it.
+void check_logs(const fs::path& out) {
+    for (const char* side : {"-wal", "-journal"})
         if (fs::exists(out.string() + side))
-            throw exchange_error(out.string() + ": is open in another program");
+            throw exchange_error(out.string() +
+                                 words(": открыт в другой программе", ": is open in another program"));
+}
+
+void write_beside(const fs::path& file, const char* extension, const std::string& content) {
+    if (!content.empty()) replace_file(fs::path(file).replace_extension() += extension, content);
 }
 
 }  // namespace
 
-void export_to_file(const fs::path& out, const fs::path& project_file, const std::string& crs,
-                    const std::function<std::optional<new_scene>()>& next) try {
-    const format kind = format_of(out);
-    check_output(out, project_file);
-    const temporary_folder workshop(fs::absolute(out).parent_path() / ".oxhost-export-XXXXXX");
-    const auto writer = open_writer(kind, out, workshop / out.filename(), crs);
-    while (const std::optional<new_scene> scene = next()) writer->write(*scene);
+std::vector<std::string> export_to_file(const export_order& order) try {
+    const fs::path& out = order.out;
+    const export_format format = format_of(out);
+    if (format == export_format::geopackage) check_logs(out);
+    const temporary_folder workshop(workshop_for(out));
+    const fs::path file = workshop / out.filename();
+    losses lost;
+    const auto writer = open_writer(order, format, file, lost);
+    while (const std::optional<layered_scene> placed = order.next()) writer->write(*placed);
     writer->finish();
-    deliver(workshop, out, kind);
+    write_beside(file, ".prj", order.prj);
+    write_beside(file, ".prj.pj4", order.prj_companion);
+    deliver(workshop, out, order.overwrite);
+    return lost.lines();
 } catch (const file_error& e) {
-    throw exchange_error(out.string() + ": cannot be written into its folder: " + e.what());
+    throw exchange_error(order.out.string() +
+                         words(": запись в папку невозможна: ", ": cannot be written into its folder: ") +
+                         e.what());
 } catch (const fs::filesystem_error& e) {
-    throw exchange_error(out.string() + ": cannot be written: " + e.code().message());
+    throw exchange_error(order.out.string() + words(": запись невозможна: ", ": cannot be written: ") +
+                         e.code().message());
 }
 
 }  // namespace oxhost

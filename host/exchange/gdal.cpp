@@ -51,10 +51,8 @@ public:
                                        oxhost::scene_taker& taker) override {
         return oxhost::import_file(source, options, taker);
     }
-    void export_lines(const std::filesystem::path& out, const std::filesystem::path& project_file,
-                      const std::string& crs,
-                      const std::function<std::optional<oxhost::new_scene>()>& next) override {
-        oxhost::export_to_file(out, project_file, crs, next);
+    std::vector<std::string> export_lines(const oxhost::export_order& order) override {
+        return oxhost::export_to_file(order);
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "exchange/exchange.h"
 
@@ -10,8 +11,7 @@ namespace oxhost {
 
 import_report import_file(const std::filesystem::path& source, const import_options& options,
                           scene_taker& taker);
-void export_to_file(const std::filesystem::path& out, const std::filesystem::path& project_file,
-                    const std::string& crs, const std::function<std::optional<new_scene>()>& next);
+std::vector<std::string> export_to_file(const export_order& order);
 
 /// GDAL reports through a handler of the process; while a guard lives, it keeps the reports to itself.
 class gdal_guard {

@@ -14,7 +14,7 @@ namespace {
 constexpr std::array<std::string_view, 5> own_columns{"fid", "geom", "caption", "profile", "proj4"};
 
 /// As GeoPackage spells them, in the order of field_type; the others are what other programs may have added.
-constexpr std::array<std::pair<std::string_view, field_type>, 11> spellings{
+constexpr std::array<std::pair<std::string_view, field_type>, 13> spellings{
     {{"INTEGER", field_type::integer},
      {"DOUBLE", field_type::real},
      {"TEXT", field_type::text},
@@ -22,7 +22,9 @@ constexpr std::array<std::pair<std::string_view, field_type>, 11> spellings{
      {"DATE", field_type::date},
      {"DATETIME", field_type::date_time},
      {"BLOB", field_type::binary},
+     {"REAL", field_type::real},
      {"FLOAT", field_type::real},
+     {"INT", field_type::integer},
      {"TINYINT", field_type::integer},
      {"SMALLINT", field_type::integer},
      {"MEDIUMINT", field_type::integer}}};
