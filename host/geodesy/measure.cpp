@@ -19,16 +19,31 @@ constexpr std::string_view wgs84_text = "+proj=longlat +datum=WGS84 +no_defs";
 
 class geodesics {
 public:
-    geodesics(double a, double rf) { geod_init(&model_, a, rf == 0 ? 0 : 1 / rf); }
+    geodesics(double a, double rf) : a_(a), e2_(rf == 0 ? 0 : (2 - 1 / rf) / rf) {
+        geod_init(&model_, a, rf == 0 ? 0 : 1 / rf);
+    }
 
+    /// Short ones by the radii of curvature at the middle latitude: relative error below 1e-9.
     double distance(point a, point b) const {
+        const double across = std::remainder(b.x - a.x, 360), up = b.y - a.y, middle = (a.y + b.y) / 2;
+        if (std::abs(across) < short_degrees && std::abs(up) < short_degrees && std::abs(middle) < 80) {
+            constexpr double radian = std::numbers::pi / 180;
+            const double sine = std::sin(middle * radian), w2 = 1 - e2_ * sine * sine;
+            const double normal = a_ / std::sqrt(w2), meridional = normal * (1 - e2_) / w2;
+            const double x = normal * std::sqrt(1 - sine * sine) * across * radian,
+                         y = meridional * up * radian;
+            return std::sqrt(x * x + y * y);
+        }
         double metres = 0;
         geod_inverse(&model_, a.y, a.x, b.y, b.x, &metres, nullptr, nullptr);
         return metres;
     }
 
 private:
+    static constexpr double short_degrees = 0.01;
+
     geod_geodesic model_{};
+    double a_, e2_;
 };
 
 /// The shape that a text puts its coordinates on, with the text's own latitude and longitude: the way
@@ -54,21 +69,31 @@ struct own_ellipsoid {
     }
 
     /// From Greenwich, whatever meridian the text counts from.
-    std::optional<polyline> longitudes_latitudes(const polyline& line) const {
-        if (!to_base) return {};
+    /// Lent until the next call; the last line is remembered, since reports ask several measures of one.
+    const std::optional<polyline>& longitudes_latitudes(const polyline& line) const {
+        if (line == placed && places) return places;
+        placed = line;
+        places.reset();
+        if (!to_base) return places;
         polyline result = line;
-        for (point& at : result) {
-            const PJ_COORD moved = proj_trans(to_base.get(), PJ_FWD, proj_coord(at.x, at.y, 0, 0));
-            at = {moved.xy.x + prime_meridian, moved.xy.y};
-            if (!is_finite(at) || std::abs(at.y) > 90) return {};
+        if (!result.empty()) {
+            constexpr std::size_t stride = sizeof(point);
+            proj_trans_generic(to_base.get(), PJ_FWD, &result[0].x, stride, result.size(), &result[0].y,
+                               stride, result.size(), nullptr, 0, 0, nullptr, 0, 0);
         }
-        return result;
+        for (point& at : result) {
+            at.x += prime_meridian;
+            if (!is_finite(at) || std::abs(at.y) > 90) return places;
+        }
+        return places = std::move(result);
     }
 
     std::shared_ptr<const crs> system;
     ellipsoid shape;
     pj_ptr to_base;
     double prime_meridian = 0;  ///< degrees
+    mutable polyline placed;
+    mutable std::optional<polyline> places;
 };
 
 const own_ellipsoid& own_ellipsoid_of(std::string_view proj4) {
@@ -91,7 +116,7 @@ double ground_distance(point a, point b) {
 
 std::optional<double> geodesic_length(const polyline& line, std::string_view proj4) {
     const own_ellipsoid& own = own_ellipsoid_of(proj4);
-    const auto places = own.longitudes_latitudes(line);
+    const auto& places = own.longitudes_latitudes(line);
     if (!places) return {};
     const geodesics ground(own.shape.a, own.shape.rf);
     double metres = 0;
@@ -129,7 +154,7 @@ std::optional<line_shift> shift_between(const polyline& before, std::string_view
 
 std::optional<double> length_distortion(const polyline& line, std::string_view proj4) {
     const own_ellipsoid& own = own_ellipsoid_of(proj4);
-    const auto places = own.longitudes_latitudes(line);
+    const auto& places = own.longitudes_latitudes(line);
     if (!places) return {};
     if (own.system->geographic) return 0;
     const geodesics ground(own.shape.a, own.shape.rf);

@@ -38,9 +38,10 @@ reprojected_line reproject(section_line& line, const transformation& way);
 /// nothing. Answers how many vertices were added.
 std::size_t densify(section_line& line, const transformation& way, double metres);
 
-/// Metres by which straight segments of `line` bow in the target, the most of all: between the images of
-/// points on a segment and the straight line through the images of its ends. Nothing when one cannot be
-/// transformed.
-std::optional<double> segment_deviation(const polyline& line, const transformation& way);
+/// Metres by which straight segments of `line` bow in the target, whose vertices `result` holds: between the
+/// images of points on a segment and the straight line through the images of its ends. The most of the
+/// longest segments, which bow most. Nothing when a point cannot be transformed.
+std::optional<double> segment_deviation(const polyline& line, const polyline& result,
+                                        const transformation& way);
 
 }  // namespace oxhost

@@ -111,24 +111,26 @@ std::size_t densify(section_line& line, const transformation& way, double metres
     return added;
 }
 
-std::optional<double> segment_deviation(const polyline& line, const transformation& way) {
-    if (line.empty()) return {};
-    polyline places;
-    places.reserve(line.size() * (1 + probes.size()));
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (i > 0) {
-            const segment whole(line[i - 1], line[i], way.source());
-            for (const double share : probes) places.push_back(whole.at(share));
-        }
-        places.push_back(line[i]);
+std::optional<double> segment_deviation(const polyline& line, const polyline& result,
+                                        const transformation& way) {
+    if (line.empty() || line.size() != result.size()) return {};
+    std::vector<std::pair<double, std::size_t>> longest;  // negative length, end
+    for (std::size_t i = 1; i < line.size(); ++i)
+        longest.emplace_back(-std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y), i);
+    const std::size_t looked_at = std::min<std::size_t>(longest.size(), 8);
+    std::ranges::nth_element(longest, longest.begin() + static_cast<std::ptrdiff_t>(looked_at));
+    longest.resize(looked_at);
+    polyline images;
+    for (const auto& [length, end] : longest) {
+        const segment whole(line[end - 1], line[end], way.source());
+        for (const double share : probes) images.push_back(whole.at(share));
     }
-    if (way.apply(places)) return {};
+    if (way.apply(images)) return {};
     double most = 0;
-    constexpr std::size_t step = 1 + probes.size();
-    for (std::size_t from = 0; from + step < places.size(); from += step)
-        for (std::size_t k = 1; k < step; ++k)
-            most = std::max(
-                most, distance_to_chord(places[from + k], places[from], places[from + step], way.target()));
+    for (std::size_t k = 0; k < images.size(); ++k) {
+        const std::size_t end = longest[k / probes.size()].second;
+        most = std::max(most, distance_to_chord(images[k], result[end - 1], result[end], way.target()));
+    }
     return most;
 }
 

@@ -50,7 +50,7 @@ struct publication {
     std::optional<double> accuracy;  ///< metres; the worst of those that have these numbers
 };
 
-publication publication_of(const crs& system) {
+publication find_publication(const crs& system) {
     publication found;
     const auto canonical = system.tokens.canonical();
     const auto text = canonical.find("towgs84");
@@ -71,6 +71,11 @@ publication publication_of(const crs& system) {
     }
     if (several) found.label.clear();
     return found;
+}
+
+const publication& publication_of(const crs& system) {
+    static memo<publication> kept(256);
+    return kept.of(system.text, [&] { return find_publication(system); });
 }
 
 }  // namespace
@@ -153,8 +158,8 @@ operation_info transformation::operation() const {
     operation_info operation;
     operation.name = info.description ? info.description : "";
     operation.definition = info.definition ? info.definition : "";
-    const publication source = publication_of(*source_);
-    const publication target = publication_of(*target_);
+    const publication source = publication_of(*source_);  // a copy: the next one may displace it
+    const publication& target = publication_of(*target_);
     operation.source_shift = source.label;
     operation.target_shift = target.label;
     if (info.accuracy >= 0) {

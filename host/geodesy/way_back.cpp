@@ -10,21 +10,6 @@ namespace {
 
 constexpr double lost = std::numeric_limits<double>::infinity();
 
-/// Every vertex of a short line; of a long one the ends, the outermost, where projections go wrong first, and
-/// some between.
-std::vector<std::size_t> tested_vertices(const polyline& line) {
-    constexpr std::size_t short_line = 16, stride = 32;
-    std::vector<std::size_t> tested;
-    for (std::size_t i = 0; i < line.size(); i += line.size() <= short_line ? 1 : stride) tested.push_back(i);
-    if (line.size() <= short_line) return tested;
-    const auto [west, east] = std::ranges::minmax_element(line, {}, &point::x);
-    const auto [south, north] = std::ranges::minmax_element(line, {}, &point::y);
-    for (const auto& outermost : {west, east, south, north})
-        tested.push_back(static_cast<std::size_t>(outermost - line.begin()));
-    tested.push_back(line.size() - 1);
-    return tested;
-}
-
 bool stands_out(double metres, double tolerance) { return !(metres <= tolerance / 2); }
 
 /// Metres on the ground between two places of a system.
@@ -90,6 +75,19 @@ return_test worst_return(const polyline& line, const polyline& result, const std
 }
 
 }  // namespace
+
+std::vector<std::size_t> tested_vertices(const polyline& line) {
+    constexpr std::size_t short_line = 16, stride = 32;
+    std::vector<std::size_t> tested;
+    for (std::size_t i = 0; i < line.size(); i += line.size() <= short_line ? 1 : stride) tested.push_back(i);
+    if (line.size() <= short_line) return tested;
+    const auto [west, east] = std::ranges::minmax_element(line, {}, &point::x);
+    const auto [south, north] = std::ranges::minmax_element(line, {}, &point::y);
+    for (const auto& outermost : {west, east, south, north})
+        tested.push_back(static_cast<std::size_t>(outermost - line.begin()));
+    tested.push_back(line.size() - 1);
+    return tested;
+}
 
 return_test test_return(const polyline& line, const polyline& result, const transformation& way,
                         double tolerance) {

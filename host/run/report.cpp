@@ -6,6 +6,7 @@
 #include "geodesy/measure.h"
 #include "geodesy/reprojector.h"
 #include "geodesy/transformation.h"
+#include "geodesy/way_back.h"
 
 namespace oxhost::run {
 
@@ -52,8 +53,14 @@ judgement judge(const scene_result& result, const record& told, const polyline& 
     const auto way = transformation::between(result.source, told.goal.proj4);
     section_line line(before);
     if (result.added_vertices) densify(line, *way, told.wanted.rules.densify);
-    found.shift = shift_between(line.xy, result.source, after, told.goal.proj4);
-    found.deviation = segment_deviation(line.xy, *way);
+    if (line.xy.size() != after.size()) return found;
+    polyline tested_before, tested_after;
+    for (const std::size_t i : tested_vertices(line.xy)) {
+        tested_before.push_back(line.xy[i]);
+        tested_after.push_back(after[i]);
+    }
+    found.shift = shift_between(tested_before, result.source, tested_after, told.goal.proj4);
+    found.deviation = segment_deviation(line.xy, after, *way);
     return found;
 }
 
@@ -61,7 +68,7 @@ judgement judge(const scene_result& result, const record& told, const polyline& 
 /// projections, the place decides.
 json operation_of(const scene_result& result, const polyline& before, const std::string& target) {
     const auto way = transformation::between(result.source, target);
-    polyline copy = before;
+    polyline copy = before.empty() ? polyline() : polyline{before.back()};
     way->apply(copy);
     const operation_info info = way->operation();
     return {{"name", or_null(info.name)},
