@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "geodesy/datum_way.h"
+#include "geodesy/mended_text.h"
 #include "geodesy/place.h"
 #include "geodesy/published_shifts.h"
 
@@ -65,7 +66,10 @@ std::optional<std::string> import_crs(std::string_view identifier, std::optional
     const std::string name(trimmed(identifier));
     if (name.empty()) return {};
     const proj4_text tokens(name);
-    if (tokens.has("proj")) return crs_of(name)->valid() ? std::optional(name) : std::nullopt;
+    if (tokens.has("proj")) {
+        std::string text = mended(name);
+        return crs_of(text)->valid() ? std::optional(std::move(text)) : std::nullopt;
+    }
     const pj_ptr system = horizontal_system(name);
     if (!system) return {};
     return proj4_of(system.get(), near);

@@ -13,7 +13,7 @@
 namespace oxhost {
 
 /// "EPSG:28407", any other authority's code, a name, WKT or PROJJSON that PROJ understands, or a proj4
-/// text (which comes back trimmed). Nothing when it is unknown or no 2D map or lon/lat system. `near`,
+/// text (which comes back mended). Nothing when it is unknown or no 2D map or lon/lat system. `near`,
 /// longitude and latitude of what lies in the system, chooses the shift of one whose area nobody published.
 std::optional<std::string> import_crs(std::string_view identifier, std::optional<point> near = {});
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 #include <utility>
 
 #include "base/memo.h"
@@ -32,6 +33,37 @@ std::optional<published_shift> read_shift(const PJ* operation) {
     return shift;
 }
 
+std::set<std::string> transformation_codes(bool withdrawn_too) {
+    std::set<std::string> codes;
+    const auto list =
+        proj_get_codes_from_database(proj_context(), "EPSG", PJ_TYPE_TRANSFORMATION, withdrawn_too);
+    for (auto code = list; code && *code; ++code) codes.insert(*code);
+    proj_string_list_destroy(list);
+    return codes;
+}
+
+bool same_shape(const ellipsoid& a, const ellipsoid& b) {
+    return std::abs(a.a - b.a) < 1e-3 && std::abs(a.rf - b.rf) < 1e-6;
+}
+
+/// Those to WGS 84 that EPSG has withdrawn, which PROJ keeps but offers for no system.
+void add_withdrawn(const ellipsoid& shape, std::vector<published_shift>& shifts) {
+    const auto valid = transformation_codes(false);
+    for (const std::string& code : transformation_codes(true)) {
+        if (valid.contains(code)) continue;
+        const pj_ptr operation(proj_create_from_database(proj_context(), "EPSG", code.c_str(),
+                                                         PJ_CATEGORY_COORDINATE_OPERATION, 0, nullptr));
+        const pj_ptr source(operation ? proj_get_source_crs(proj_context(), operation.get()) : nullptr);
+        const pj_ptr target(operation ? proj_get_target_crs(proj_context(), operation.get()) : nullptr);
+        if (!source || !target || std::string_view(proj_get_name(target.get())) != "WGS 84") continue;
+        if (!same_shape(ellipsoid_of(source.get()), shape)) continue;
+        if (auto shift = read_shift(operation.get())) {
+            shift->current = false;
+            shifts.push_back(*std::move(shift));
+        }
+    }
+}
+
 /// Those of every geographic system of the EPSG data set that stands on this ellipsoid.
 std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
     std::vector<published_shift> shifts;
@@ -47,11 +79,11 @@ std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
         const pj_ptr system(
             proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
         if (!system) continue;
-        const ellipsoid own = ellipsoid_of(system.get());
-        if (std::abs(own.a - shape.a) > 1e-3 || std::abs(own.rf - shape.rf) > 1e-6) continue;
+        if (!same_shape(ellipsoid_of(system.get()), shape)) continue;
         for (auto& shift : published_shifts(system.get())) shifts.push_back(std::move(shift));
     }
     proj_crs_info_list_destroy(list);
+    add_withdrawn(shape, shifts);
     return shifts;
 }
 
