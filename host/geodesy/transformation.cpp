@@ -62,8 +62,7 @@ publication find_publication(const crs& system) {
         return found;
     }
     bool several = false;
-    for (const auto& published : published_shifts(ellipsoid_of(system.object.get()))) {
-        if (!same_shift(shift, published.values)) continue;
+    for (const auto& published : publications_of(shift, ellipsoid_of(system.object.get()))) {
         const std::string label = published.name + " (" + published.code + ')';
         several = several || (!found.label.empty() && found.label != label);
         found.label = label;
