@@ -70,8 +70,7 @@ public:
 
 private:
     static catalogue_index index_beside_program() try {
-        const auto program = std::filesystem::read_symlink("/proc/self/exe");
-        return catalogue_index(program.parent_path() / "prj_def" / catalogue_index_file);
+        return catalogue_index(run::catalogue_folder() / catalogue_index_file);
     } catch (const std::runtime_error& e) {
         throw failure(exit_code::unreadable, e.what());
     }

@@ -124,6 +124,7 @@ void ox_pj4_fav_list_serialize(void* list) {
             if (list) as_list(list)->save();
         } catch (const file_error& error) {
             complain(error.what());
+            journal::instance().file_function_ended(error.what());
         }
     });
 }

@@ -68,6 +68,20 @@ void reprojection_utility::run(const target& goal, const std::vector<scene*>& li
     host_.run(plug_in_text::utility);
 }
 
+std::filesystem::path catalogue_folder() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path() / "prj_def";
+}
+
+projection_dialog::projection_dialog(const std::filesystem::path& bundle) : host_(bundle, user_) {
+    for (const char* table : {"pj_ellps.dbf", "pj_datum.dbf", "pj_proj1.dbf", "pj_proj2.dbf"}) {
+        const auto file = catalogue_folder() / table;
+        if (std::error_code ignored; !std::filesystem::is_regular_file(file, ignored))
+            throw failure(trouble::unreadable,
+                          file.string() + std::string(in_language(": нет каталога проекций",
+                                                                  ": the projection catalogue is missing")));
+    }
+}
+
 void projection_dialog::open(const std::string& proj4, const std::function<void(dialog_hands&)>& act) {
     user_.in_dialog(plug_in_text::projection_dialog, [&](dialog_hands& hands) { act(hands); });
     user_.in_dialog(plug_in_text::utility, [&](dialog_hands& hands) {
@@ -91,7 +105,10 @@ void projection_dialog::choose_crs(dialog_hands& hands, const std::string& ident
         const bool known = std::ranges::any_of(buttons, [](const shell::dialog_button& button) {
             return button.role == button_role::accept && button.enabled;
         });
-        if (!known) throw failure(trouble::refused, '"' + identifier + "\": no such projection");
+        if (!known)
+            throw failure(trouble::refused,
+                          '"' + identifier + '"' +
+                              std::string(in_language(": такой проекции нет", ": no such projection")));
         asked.press(button_role::accept);
     });
     hands.click(plug_in_text::epsg());
@@ -100,7 +117,9 @@ void projection_dialog::choose_crs(dialog_hands& hands, const std::string& ident
 void projection_dialog::take_favourite(dialog_hands& hands, std::uint32_t number) {
     shell::table_model& favourites = *hands.only(node_kind::outline).rows();
     if (number == 0 || number > favourites.row_count())
-        throw failure(trouble::refused, "no favourite " + std::to_string(number) + " among the " +
+        throw failure(trouble::refused, std::string(in_language("нет избранной проекции ", "no favourite ")) +
+                                            std::to_string(number) +
+                                            std::string(in_language(", всего их ", " among the ")) +
                                             std::to_string(favourites.row_count()));
     favourites.make_current(number - 1);
 }

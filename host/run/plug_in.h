@@ -32,14 +32,18 @@ private:
     shell::bundle_host host_;
 };
 
+/// The folder of the projection catalogue: beside the program, where the plug-in looks for it.
+std::filesystem::path catalogue_folder();
+
 /// Its projection dialog, reached as a person reaches it: through the target of the utility.
 class projection_dialog {
 public:
-    /// Throws bundle_error.
-    explicit projection_dialog(const std::filesystem::path& bundle) : host_(bundle, user_) {}
+    /// Throws bundle_error, and `failure` (unreadable) where a table of the catalogue is missing: the dialog
+    /// would open all the same and offer next to nothing.
+    explicit projection_dialog(const std::filesystem::path& bundle);
 
     /// Opens the dialog on a proj4 text, which may be empty, lets `act` do what it wants in it, and
-    /// dismisses it. Favourites are stored then.
+    /// dismisses it. Favourites are stored then; the journal's file failure tells when that fails.
     void open(const std::string& proj4, const std::function<void(headless::dialog_hands&)>& act);
 
     // For `act`, which hands on its hands. They throw `failure`.

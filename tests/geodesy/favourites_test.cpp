@@ -82,5 +82,32 @@ TEST_F(Favourites, UnreadableFileIsNotReplaced) {
     EXPECT_THROW(list.save(), file_error);
 }
 
+/// Each of two writers loaded the same list; neither loses what the other did, and a linked file stays one.
+TEST_F(Favourites, OfSeveralWritersMerge) {
+    std::filesystem::create_directories(folder_ / "new/config");
+    std::filesystem::create_directories(folder_ / "shared");
+    std::filesystem::create_symlink("../../shared/list.json", favourites_path());
+    favourite_list first = loaded();
+    for (const char* caption : {"kept", "renamed", "removed", "removed by both"})
+        first.add({caption, caption});
+    first.save();
+    favourite_list second = loaded();
+    first.rename(1, "new name");
+    first.remove(3);
+    first.add({"of the first", ""});
+    first.save();
+    second.remove(2);
+    second.remove(2);
+    second.add({"of the second", ""});
+    second.save();
+    const std::vector<std::string> expected{"kept", "new name", "of the first", "of the second"};
+    std::vector<std::string> captions;
+    for (std::int32_t i = 0; i < second.count(); ++i) captions.push_back(second.at(i)->caption);
+    EXPECT_EQ(captions, expected);
+    EXPECT_EQ(loaded().count(), 4);
+    EXPECT_TRUE(std::filesystem::is_symlink(favourites_path()));
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder_ / "shared/list.json"));
+}
+
 }  // namespace
 }  // namespace oxhost
