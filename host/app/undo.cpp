@@ -20,10 +20,6 @@ struct undo_options {
     bool quiet = false;
 };
 
-std::string in_words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 /// "2026-11-23 21:30:00 UTC, EPSG:32640"
 std::string name_of(const past_run& run) {
     std::string date = run.started.substr(0, 19);
@@ -48,9 +44,9 @@ exit_code list(const undo_options& options) {
         print_json(runs);
         return exit_code::done;
     }
-    if (runs.empty()) std::cout << in_words("Отменять нечего", "Nothing to undo") << '\n';
+    if (runs.empty()) std::cout << words("Отменять нечего", "Nothing to undo") << '\n';
     for (const past_run& each : runs)
-        std::cout << name_of(each) << in_words(", сцен: ", ", scenes: ") << each.scenes << '\n';
+        std::cout << name_of(each) << words(", сцен: ", ", scenes: ") << each.scenes << '\n';
     return exit_code::done;
 }
 
@@ -60,8 +56,7 @@ std::string enumeration(const std::vector<std::string>& scenes) {
     std::string text;
     for (std::size_t i = 0; i < std::min(scenes.size(), most_named); ++i) append_item(text, scenes[i]);
     if (scenes.size() > most_named)
-        text +=
-            in_words(" и ещё ", " and ") + std::to_string(scenes.size() - most_named) + in_words("", " more");
+        text += words(" и ещё ", " and ") + std::to_string(scenes.size() - most_named) + words("", " more");
     return text;
 }
 
@@ -73,19 +68,18 @@ void tell_trouble(const undo_options& options, const undone& result) {
                   << enumeration(scenes) << hint << '\n';
     };
     if (options.force) {
-        line(in_words("сцены, изменённые после запуска не им, перезаписаны",
-                      "scenes that something else has changed since the run, overwritten"),
+        line(words("сцены, изменённые после запуска не им, перезаписаны",
+                   "scenes that something else has changed since the run, overwritten"),
              result.changed_since, "");
-        line(in_words("сцен больше нет в проекте, их записи удалены",
-                      "scenes no longer in the project, their records dropped"),
+        line(words("сцен больше нет в проекте, их записи удалены",
+                   "scenes no longer in the project, their records dropped"),
              result.gone, "");
     } else {
-        line(in_words("сцены, изменённые после запуска не им, оставлены как есть",
-                      "scenes that something else has changed since the run, left alone"),
-             result.changed_since,
-             in_words("; --force вернёт и их", "; --force takes them back all the same"));
-        line(in_words("сцен больше нет в проекте", "scenes no longer in the project"), result.gone,
-             in_words("; --force удалит их записи", "; --force drops their records"));
+        line(words("сцены, изменённые после запуска не им, оставлены как есть",
+                   "scenes that something else has changed since the run, left alone"),
+             result.changed_since, words("; --force вернёт и их", "; --force takes them back all the same"));
+        line(words("сцен больше нет в проекте", "scenes no longer in the project"), result.gone,
+             words("; --force удалит их записи", "; --force drops their records"));
     }
 }
 
@@ -96,11 +90,11 @@ exit_code undo(const undo_options& options) {
     opened->close();
     if (!result)
         throw failure(exit_code::nothing_done,
-                      options.project.string() + ": " + in_words("отменять нечего", "nothing to undo"));
+                      options.project.string() + ": " + words("отменять нечего", "nothing to undo"));
     tell_trouble(options, *result);
     if (!options.quiet)
-        std::cout << in_words("Отмена запуска ", "Undo of the run ") << name_of(result->run)
-                  << in_words(": возвращено сцен: ", ": scenes taken back: ") << result->taken_back << '\n';
+        std::cout << words("Отмена запуска ", "Undo of the run ") << name_of(result->run)
+                  << words(": возвращено сцен: ", ": scenes taken back: ") << result->taken_back << '\n';
     const bool all = result->gone.empty() && (options.force || result->changed_since.empty());
     return all ? exit_code::done : exit_code::scene_failed;
 }
@@ -110,26 +104,26 @@ exit_code undo(const undo_options& options) {
 void add_undo(CLI::App& app, action& chosen) {
     auto options = std::make_shared<undo_options>();
     CLI::App* command =
-        app.add_subcommand("undo", in_words("Отменить последнее перепроецирование сцен проекта",
-                                            "Take back the last reprojection of a project's scenes"));
-    command->add_option("project", options->project, in_words("Проект", "The project"))
+        app.add_subcommand("undo", words("Отменить последнее перепроецирование сцен проекта",
+                                         "Take back the last reprojection of a project's scenes"));
+    command->add_option("project", options->project, words("Проект", "The project"))
         ->type_name("PROJECT.gpkg")
         ->required();
     auto* list = command->add_flag("--list", options->list,
-                                   in_words("Показать запуски, которые можно отменить, новые первыми",
-                                            "Show the runs that can be undone, newest first"));
+                                   words("Показать запуски, которые можно отменить, новые первыми",
+                                         "Show the runs that can be undone, newest first"));
     command
         ->add_flag("--json", options->json,
-                   in_words("Как JSON: id, started, target, proj4, scenes",
-                            "As JSON: id, started, target, proj4, scenes"))
+                   words("Как JSON: id, started, target, proj4, scenes",
+                         "As JSON: id, started, target, proj4, scenes"))
         ->needs(list);
     command
         ->add_flag("--force", options->force,
-                   in_words("И сцены, изменённые с тех пор другой программой",
-                            "Scenes that another program has changed since as well"))
+                   words("И сцены, изменённые с тех пор другой программой",
+                         "Scenes that another program has changed since as well"))
         ->excludes(list);
     command->add_flag("--quiet", options->quiet,
-                      in_words("Сообщать только об ошибках", "Say nothing but errors"));
+                      words("Сообщать только об ошибках", "Say nothing but errors"));
     add_language(*command);
     command->callback([options, &chosen] { chosen = [options] { return undo(*options); }; });
 }

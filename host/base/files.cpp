@@ -29,10 +29,6 @@ namespace fs = std::filesystem;
     refuse(file, what + ": " + std::strerror(errno));
 }
 
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 std::string cannot_write() { return words("запись невозможна", "cannot be written"); }
 
 void write_all(int handle, const fs::path& file, std::string_view content) {

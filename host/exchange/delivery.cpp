@@ -47,10 +47,6 @@ private:
     std::vector<std::pair<fs::path, fs::path>> done_;
 };
 
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 bool is_there(const fs::path& file) { return fs::exists(fs::symlink_status(file)); }
 
 }  // namespace

@@ -11,10 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 std::unique_ptr<line_writer> open_writer(const export_order& order, export_format format,
                                          const fs::path& file, losses& lost) {
     if (format == export_format::geojson) return write_geojson(order, file, lost);

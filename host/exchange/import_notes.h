@@ -54,11 +54,6 @@ private:
     std::vector<std::string> remarks_;
 };
 
-/// The one of two texts that the user reads.
-inline std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 /// `"a", "b"` or, of many, the first ten and how many more.
 std::string quoted_list(const std::vector<std::string>& names);
 

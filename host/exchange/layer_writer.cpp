@@ -2,8 +2,8 @@
 #include <ogrsf_frmts.h>
 
 #include "base/language.h"
-#include "exchange/layer_attributes.h"
 #include "exchange/gdal.h"
+#include "exchange/layer_attributes.h"
 #include "exchange/writers.h"
 
 namespace oxhost {
@@ -11,10 +11,6 @@ namespace oxhost {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
 
 OGRwkbGeometryType type_of(const export_layer& layer) {
     return OGR_GT_SetModifier(wkbLineString, layer.heights, layer.measures);

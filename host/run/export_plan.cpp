@@ -20,10 +20,6 @@ namespace fs = std::filesystem;
 /// What GeoJSON's standard prescribes.
 constexpr auto geojson_system = "+proj=longlat +datum=WGS84 +no_defs";
 
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 bool has_place(const scene& asked) { return asked.line && asked.line->vertices > 0; }
 
 /// Letters, digits and underscores of what tells the system apart: `EPSG_32640`, `tmerc_57`.
@@ -149,10 +145,9 @@ private:
                     ? words("линии без проекции: координаты в файле — не долгота и широта",
                             "the lines have no projection: the file's coordinates are not longitude and "
                             "latitude")
-                    : words(
-                          "линий без проекции: " + count + "; у их слоя нет системы координат",
-                          "lines without projection: " + count +
-                              "; their layer says nothing of a coordinate system"));
+                    : words("линий без проекции: " + count + "; у их слоя нет системы координат",
+                            "lines without projection: " + count +
+                                "; their layer says nothing of a coordinate system"));
             return;
         }
         if (!says_system_) return;

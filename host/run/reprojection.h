@@ -34,7 +34,6 @@ struct order {
     bool keep_lines = false;   ///< the record is to have the lines before and after
     reprojection_rules rules;  ///< for every line of this process from then on
     bool no_undo = false;  ///< keep nothing by which the run could be undone, nor what earlier runs have kept
-    bool keep_lines = false;  ///< the record is to have the lines before and after
     std::filesystem::path bundle;
 };
 
