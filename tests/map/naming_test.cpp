@@ -57,7 +57,7 @@ TEST_CASES(
     {"Crossing", {{{200, 100}, {600, 400}}, {{200, 400}, {600, 100}}, {{400, 80}, {400, 430}}}, "profile", 3},
     {"CloseAcross", parallel(12, {200, 200}, {500, 200}, {0, 4}), "профиль", 12},
     {"CloseUpwards", parallel(12, {300, 360}, {400, 140}, {5, 0}), "profile", 12},
-    {"SixtyInARow", parallel(60, {130, 80}, {136, 92}, {9, 5}), "profile", 0},
+    {"SixtyLong", parallel(60, {130, 80}, {500, 110}, {0, 5}), "profile", 0},
     {"SameLineTwice", {{{300, 200}, {400, 260}}, {{300, 200}, {400, 260}}}, "profile", 2}) {
     std::vector<named_line> lines;
     for (std::size_t i = 0; i < c.lines.size(); ++i)
