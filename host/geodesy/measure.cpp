@@ -152,6 +152,25 @@ std::optional<line_shift> shift_between(const polyline& before, std::string_view
                       largest_distance(*own_before, *own_after)};
 }
 
+std::optional<number_shift> shift_of_numbers(const polyline& before, std::string_view source,
+                                             const polyline& after, std::string_view target) {
+    if (before.size() != after.size()) return {};
+    const auto from = own_ellipsoid_of(source).longitudes_latitudes(before);
+    const auto to = own_ellipsoid_of(target).longitudes_latitudes(after);
+    if (!from || !to) return {};
+    number_shift largest;
+    geod_geodesic wgs84;
+    geod_init(&wgs84, 6378137, 1 / 298.257223563);
+    for (std::size_t i = 0; i < from->size(); ++i) {
+        const point &a = (*from)[i], &b = (*to)[i];
+        number_shift moved;
+        geod_inverse(&wgs84, a.y, a.x, b.y, b.x, &moved.metres, &moved.azimuth, nullptr);
+        if (moved.metres > largest.metres) largest = moved;
+    }
+    largest.azimuth = std::fmod(largest.azimuth + 360, 360);
+    return largest;
+}
+
 std::optional<double> length_distortion(const polyline& line, std::string_view proj4) {
     const own_ellipsoid& own = own_ellipsoid_of(proj4);
     const auto& places = own.longitudes_latitudes(line);

@@ -36,6 +36,15 @@ struct line_shift {
 std::optional<line_shift> shift_between(const polyline& before, std::string_view source,
                                         const polyline& after, std::string_view target);
 
+/// The largest change of longitude and latitude as numbers, as a way on WGS 84: metres, and degrees from
+/// north, clockwise. Nothing where `shift_between` has nothing.
+struct number_shift {
+    double metres = 0;
+    double azimuth = 0;
+};
+std::optional<number_shift> shift_of_numbers(const polyline& before, std::string_view source,
+                                             const polyline& after, std::string_view target);
+
 /// Largest relative difference between a segment's length in the plane of the projection and along the
 /// ellipsoid: 0.01 is one percent. 0 for longitude/latitude. Nothing when a vertex cannot be placed.
 std::optional<double> length_distortion(const polyline& line, std::string_view proj4);

@@ -10,7 +10,7 @@ namespace oxhost::map {
 
 namespace {
 
-constexpr double margin = 0.08;               // of the content, on each side
+constexpr double margin = 0.12;               // of the content, on each side
 constexpr double smallest_side = 0.02;        // degrees
 constexpr double metres_per_degree = 111195;  // of latitude, on the mean sphere
 
@@ -22,6 +22,14 @@ double round_below(double limit) {
     for (const double digit : {5.0, 2.0})
         if (digit * power <= limit) return digit * power;
     return power;
+}
+
+/// The smallest of them that is not below it.
+double round_above(double limit) {
+    const double below = round_below(limit);
+    for (const double factor : {1.0, 2.0, 2.5})
+        if (round_below(below * factor * 1.01) >= limit) return round_below(below * factor * 1.01);
+    return round_below(below * 5.05);
 }
 
 std::string degrees_text(double degrees, char negative, char positive) {
@@ -60,24 +68,23 @@ rectangle frame::to_picture(const geographic_extent& degrees) const {
 }
 
 std::string frame::graticule() const {
-    constexpr double lines_across = 4;
+    constexpr double room_x = 72, room_y = 60;  // of a label, at least
     const double bottom = place_.y + place_.height;
-    std::string drawn = svg::rectangle_element("ground", place_);
-    std::string path;
-    const double step_x = round_below(shown_.width() / lines_across);
+    std::string drawn, path;
+    const double step_x = round_above(room_x / place_.width * shown_.width());
     for (double n = std::ceil(shown_.min_x / step_x); n * step_x < shown_.max_x; ++n) {
         const double x = to_picture(point{n * step_x, 0}).x;
         path += 'M' + svg::pair(x, place_.y) + 'V' + svg::number(bottom);
         drawn += degrees_label(x, bottom + 13, "middle", degrees_text(n * step_x, 'W', 'E'));
     }
-    const double step_y = round_below(shown_.height() / lines_across);
+    const double step_y = round_above(room_y / pixels_per_degree_north());
     for (double n = std::ceil(shown_.min_y / step_y); n * step_y < shown_.max_y; ++n) {
         if (std::abs(n * step_y) > 90) continue;
         const double y = to_picture(point{0, n * step_y}).y;
         path += 'M' + svg::pair(place_.x, y) + 'H' + svg::number(place_.x + place_.width);
         drawn += degrees_label(place_.x - 4, y + 4, "end", degrees_text(n * step_y, 'S', 'N'));
     }
-    return drawn + svg::path_element("graticule", path);
+    return svg::path_element("graticule", path) + svg::rectangle_element("border", place_) + drawn;
 }
 
 double frame::metres_per_pixel() const { return metres_per_degree / pixels_per_degree_north(); }

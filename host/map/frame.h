@@ -21,7 +21,7 @@ public:
     point to_picture(const point& degrees) const;
     rectangle to_picture(const geographic_extent& degrees) const;
 
-    /// Meridians and parallels with their degrees along the edges, on a white ground.
+    /// Meridians and parallels with their degrees along the edges, and the edges.
     std::string graticule() const;
     /// A bar of a round length, right for the middle latitude.
     std::string scale_bar(language wanted) const;

@@ -16,11 +16,30 @@ struct span {
 
 double whole_turns(double degrees) { return 360 * std::floor(degrees / 360); }
 
+double west_of(const body& lines) {
+    double west = std::numeric_limits<double>::infinity();
+    for (const polyline* line : lines) west = std::min(west, std::ranges::min(*line, {}, &point::x).x);
+    return west;
+}
+
 /// Its west end lies within [-180, 180).
-span span_of(const polyline& line) {
-    const auto [west, east] = std::ranges::minmax(line, {}, &point::x);
-    const double turn = whole_turns(west.x + 180);
-    return {west.x - turn, east.x - turn};
+span span_of(const body& lines) {
+    const double west = west_of(lines);
+    double east = west;
+    for (const polyline* line : lines) east = std::max(east, std::ranges::max(*line, {}, &point::x).x);
+    const double turn = whole_turns(west + 180);
+    return {west - turn, east - turn};
+}
+
+/// Takes the turns of another line, so that both lie beside each other.
+void follow(polyline& line, const polyline& first) {
+    const auto nearest = [](double x, double to) { return to + std::remainder(x - to, 360); };
+    if (line.size() == first.size()) {
+        for (std::size_t i = 0; i < line.size(); ++i) line[i].x = nearest(line[i].x, first[i].x);
+        return;
+    }
+    line.front().x = nearest(line.front().x, first.front().x);
+    unwrap(line);
 }
 
 /// Where the circle is cut.
@@ -45,18 +64,22 @@ void unwrap(polyline& line) {
         line[i].x = line[i - 1].x + std::remainder(line[i].x - line[i - 1].x, 360);
 }
 
-void gather(const std::vector<polyline*>& lines) {
+void gather(std::vector<body> bodies) {
     std::vector<span> spans;
-    for (polyline* line : lines) {
-        unwrap(*line);
-        if (!line->empty()) spans.push_back(span_of(*line));
+    for (body& lines : bodies) {
+        std::erase_if(lines, [](const polyline* line) { return line->empty(); });
+        if (lines.empty()) continue;
+        unwrap(*lines.front());
+        for (polyline* line : lines) follow(*line, *lines.front());
+        spans.push_back(span_of(lines));
     }
     if (spans.empty()) return;
     const double cut = cut_between(std::move(spans));
-    for (polyline* line : lines) {
-        if (line->empty()) continue;
-        const double turn = whole_turns(std::ranges::min(*line, {}, &point::x).x - cut);
-        for (point& place : *line) place.x -= turn;
+    for (const body& lines : bodies) {
+        if (lines.empty()) continue;
+        const double turn = whole_turns(west_of(lines) - cut);
+        for (polyline* line : lines)
+            for (point& place : *line) place.x -= turn;
     }
 }
 

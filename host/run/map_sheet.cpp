@@ -1,8 +1,12 @@
+#include <proj.h>
+
 #include <stdexcept>
 
 #include "base/language.h"
+#include "geodesy/crs_import.h"
 #include "geodesy/description.h"
 #include "geodesy/measure.h"
+#include "geodesy/proj_context.h"
 #include "map/section_map.h"
 #include "run/report.h"
 
@@ -10,14 +14,28 @@ namespace oxhost::run {
 
 namespace {
 
+/// A text that PROJ refuses, or an empty one, measures nothing.
+template <class Measure>
+auto measured(const std::string& proj4, Measure&& measure) -> decltype(measure()) {
+    try {
+        if (!proj4.empty()) return measure();
+    } catch (const std::invalid_argument&) {
+    }
+    return std::nullopt;
+}
+
 /// Where a line lies, if that can be told.
 std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
-    if (proj4.empty() || line.empty()) return std::nullopt;
-    try {
-        return to_wgs84(line, proj4);
-    } catch (const std::invalid_argument&) {  // a text that PROJ refuses places nothing
-        return std::nullopt;
-    }
+    if (line.empty()) return std::nullopt;
+    return measured(proj4, [&] { return to_wgs84(line, proj4); });
+}
+
+/// "WGS 84 / UTM zone 40N (EPSG:32640)", or what the text says where it has no name.
+std::string name_of(const std::string& proj4, language wanted) {
+    const auto code = epsg_code(proj4);
+    const pj_ptr system(code ? proj_create(proj_context(), code->c_str()) : nullptr);
+    const char* name = system ? proj_get_name(system.get()) : nullptr;
+    return name ? std::string(name) + " (" + *code + ')' : short_description(proj4, wanted);
 }
 
 map::look look_of(outcome came_to) {
@@ -32,19 +50,30 @@ std::string map_text(const record& told) {
     const language wanted = current_language();
     const std::string destination = told.goal.none()
                                         ? std::string(in_language("проекция сброшена", "projection reset"))
-                                        : short_description(told.goal.proj4, wanted);
-    map::sheet sheet{.title = told.wanted.project.filename().string() + " → " + destination,
+                                        : name_of(told.goal.proj4, wanted);
+    map::sheet sheet{.title = told.wanted.project.stem().string() + " → " + destination,
+                     .subtitle = short_description(told.goal.proj4, wanted),
                      .note = {},
                      .wanted = wanted,
                      .lines = {}};
     if (told.wanted.dry_run) sheet.note = in_language("; пробный запуск", "; dry run");
     for (std::size_t i = 0; i < told.results.size(); ++i) {
         const scene_result& result = told.results[i];
-        const bool moved = result.came_to == outcome::reprojected || result.came_to == outcome::reset;
-        sheet.lines.push_back({.caption = result.subject->caption,
-                               .shown_as = look_of(result.came_to),
-                               .before = moved ? placed(told.before[i], result.source) : std::nullopt,
-                               .now = placed(told.after[i], result.subject->proj4)});
+        const std::string& proj4 = result.subject->proj4;
+        const polyline &before = told.before[i], &after = told.after[i];
+        const bool reprojected = result.came_to == outcome::reprojected;
+        map::mapped_line& line = sheet.lines.emplace_back();
+        line.number = result.subject->index;
+        line.caption = result.subject->caption;
+        line.shown_as = look_of(result.came_to);
+        if (reprojected || result.came_to == outcome::reset) line.before = placed(before, result.source);
+        line.now = placed(after, proj4);
+        if (result.came_to != outcome::failed)
+            line.scale_error = measured(proj4, [&] { return length_distortion(after, proj4); });
+        if (!reprojected) continue;
+        const auto shift =
+            measured(proj4, [&] { return shift_of_numbers(before, result.source, after, proj4); });
+        if (shift) line.shift = {shift->metres, shift->azimuth};
     }
     return map::section_map(std::move(sheet));
 }

@@ -81,45 +81,50 @@ TEST(Regions, OfManyLinesAreFewAndApart) {
 
 struct gathered_case {
     const char* name;
-    std::vector<std::vector<double>> given, expected;
+    std::vector<std::vector<std::vector<double>>> given, expected;  ///< bodies of lines of longitudes
 };
 
-class Longitudes : public testing::TestWithParam<gathered_case> {};
-
-TEST_P(Longitudes, AreCutWhereTheCircleIsEmpty) {
-    std::vector<polyline> lines;
-    std::vector<polyline*> all;
-    for (const auto& longitudes : GetParam().given) {
-        polyline& line = lines.emplace_back();
-        for (const double x : longitudes) line.push_back({x, 65});
+TEST_CASES(Longitudes, AreCutWhereTheCircleIsEmpty, gathered_case, {"Nothing", {}, {}},
+           {"EmptyLine", {{{}}, {{5}}}, {{{}}, {{5}}}},
+           {"Usual", {{{30, 40}}, {{-5, 2}}, {{100}}}, {{{30, 40}}, {{-5, 2}}, {{100}}}},
+           {"LineJumps", {{{179, -179, -178}}}, {{{179, 181, 182}}}},
+           {"LineJumpsBack", {{{-179, 179}}}, {{{181, 179}}}},
+           {"LinesOnBothSides", {{{177, 178}}, {{-178, -177}}}, {{{177, 178}}, {{182, 183}}}},
+           {"BeforeAndAfter", {{{179.75, 180.5}, {-180, -179.5}}}, {{{179.75, 180.5}, {180, 180.5}}}},
+           {"BeforeAndAfterTurnedAlike",
+            {{{0, 179.75, 0}, {0, -179.75, 0}}, {{90}}, {{-60}}},
+            {{{0, 179.75, 0}, {0, 180.25, 0}}, {{90}}, {{-60}}}},
+           {"OneMoreVertexAfter", {{{179, -179}, {-181, 180, -179}}}, {{{179, 181}, {179, 180, 181}}}},
+           {"TouchesTheDateLine", {{{170, 180}}, {{30, 31}}}, {{{170, 180}}, {{30, 31}}}},
+           {"CountedFromZero", {{{350, 355}}, {{5, 10}}}, {{{-10, -5}}, {{5, 10}}}},
+           {"LineOverOthers",
+            {{{-170, -40, 100}}, {{-100, -90}}, {{110, 120}}},
+            {{{-170, -40, 100}}, {{-100, -90}}, {{110, 120}}}},
+           {"AllAround", {{{-170, -60, 60, 170}}, {{175, -175}}}, {{{-170, -60, 60, 170}}, {{175, 185}}}}) {
+    std::vector<std::vector<polyline>> lines;
+    for (const auto& body_given : c.given) {
+        auto& made = lines.emplace_back();
+        for (const auto& longitudes : body_given) {
+            polyline& line = made.emplace_back();
+            for (const double x : longitudes) line.push_back({x, 65});
+        }
     }
-    for (polyline& each : lines) all.push_back(&each);
-    gather(all);
-    std::vector<std::vector<double>> found;
-    for (const polyline& line : lines) {
+    std::vector<body> bodies;
+    for (auto& each : lines) {
+        body& together = bodies.emplace_back();
+        for (polyline& line : each) together.push_back(&line);
+    }
+    gather(bodies);
+    std::vector<std::vector<std::vector<double>>> found;
+    for (const auto& each : lines) {
         auto& longitudes = found.emplace_back();
-        for (const point& place : line) longitudes.push_back(place.x);
+        for (const polyline& line : each) {
+            longitudes.emplace_back();
+            for (const point& place : line) longitudes.back().push_back(place.x);
+        }
     }
-    EXPECT_EQ(found, GetParam().expected);
+    EXPECT_EQ(found, c.expected);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, Longitudes,
-    testing::Values(
-        gathered_case{"Nothing", {}, {}}, gathered_case{"EmptyLine", {{}, {5}}, {{}, {5}}},
-        gathered_case{"Usual", {{30, 40}, {-5, 2}, {100}}, {{30, 40}, {-5, 2}, {100}}},
-        gathered_case{"LineJumps", {{179, -179, -178}}, {{179, 181, 182}}},
-        gathered_case{"LineJumpsBack", {{-179, 179}}, {{181, 179}}},
-        gathered_case{"LinesOnBothSides", {{177, 178}, {-178, -177}}, {{177, 178}, {182, 183}}},
-        gathered_case{
-            "BeforeAndAfterOfOneLine", {{179.999, 180.5}, {-180, -179.5}}, {{179.999, 180.5}, {180, 180.5}}},
-        gathered_case{"TouchesTheDateLine", {{170, 180}, {30, 31}}, {{170, 180}, {30, 31}}},
-        gathered_case{"CountedFromZero", {{350, 355}, {5, 10}}, {{-10, -5}, {5, 10}}},
-        gathered_case{"LineOverOthers",
-                      {{-170, -40, 100}, {-100, -90}, {110, 120}},
-                      {{-170, -40, 100}, {-100, -90}, {110, 120}}},
-        gathered_case{"AllAround", {{-170, -60, 60, 170}, {175, -175}}, {{-170, -60, 60, 170}, {175, 185}}}),
-    case_name);
 
 }  // namespace
 }  // namespace oxhost::map

@@ -43,16 +43,21 @@ box_of_numbers drawn_lines(const std::string& picture) {
 
 mapped_line line(const char* caption, polyline now, look shown_as = look::kept,
                  std::optional<polyline> before = {}) {
-    return {caption, shown_as, std::move(before), std::move(now)};
+    return {.caption = caption,
+            .shown_as = shown_as,
+            .before = std::move(before),
+            .now = std::move(now),
+            .shift = displacement{103.26, 287},
+            .scale_error = 0.0157};
 }
 
 class SectionMap : public testing::TestWithParam<sheet_case> {};
 
 TEST_P(SectionMap, ShowsEveryLineInsideItself) {
     const sheet_case& given = GetParam();
-    const std::string picture =
-        section_map({.title = "p", .note = "", .wanted = language::english, .lines = given.lines});
-    EXPECT_EQ(count(picture, "class=\"ground\""), given.frames);
+    const std::string picture = section_map(
+        {.title = "p", .subtitle = "", .note = "", .wanted = language::english, .lines = given.lines});
+    EXPECT_EQ(count(picture, "class=\"border\""), given.frames);
     for (const std::string& part : given.parts) EXPECT_NE(picture.find(part), std::string::npos) << part;
     for (const char* broken : {"nan", "inf", "e+"})
         EXPECT_EQ(picture.find("\"" + std::string(broken)), std::string::npos);
@@ -60,10 +65,10 @@ TEST_P(SectionMap, ShowsEveryLineInsideItself) {
     const double height = std::stod(picture.substr(picture.find("height=\"") + 8));
     const auto [left, top, right, bottom] = drawn_lines(picture);
     if (given.frames == 0) return;
-    EXPECT_GE(left, 44);
-    EXPECT_LE(right, 1120 - 44);
-    EXPECT_GE(top, 64);
-    EXPECT_LE(bottom, height - 74);
+    EXPECT_GE(left, 56);
+    EXPECT_LE(right, 1120 - 56);
+    EXPECT_GE(top, 72);
+    EXPECT_LE(bottom, height - 48);
     EXPECT_GT(std::max(right - left, bottom - top), 100) << "the lines are a speck";
 }
 
@@ -72,13 +77,14 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         sheet_case{"NoLines", {}, 0, {">p<", "Longitude and latitude on WGS 84<"}},
         sheet_case{"WithoutPlace",
-                   {{"lost", look::failed, {}, {}}, line("there", {{57, 55}, {58, 56}})},
+                   {{0, "lost", look::failed, {}, {}, {}, {}}, line("there", {{57, 55}, {58, 56}})},
                    1,
-                   {"; without a place on the map: 1<", ">there<", ">failed<"}},
-        sheet_case{"BeforeAndAfter",
-                   {line("A", {{57, 55}, {58, 56}}, look::changed, polyline{{57.001, 55}, {58.001, 56}})},
-                   1,
-                   {"class=\"line before\"", "class=\"line after\"", ">A<"}},
+                   {"; without a place on the map: 1<", ">there<", ">failed<", ">lost<"}},
+        sheet_case{
+            "BeforeAndAfter",
+            {line("A", {{57, 55}, {58, 56}}, look::changed, polyline{{57.001, 55}, {58.001, 56}})},
+            1,
+            {"class=\"line before\"", "class=\"line after\"", ">A<", ">103.3 m<", ">W 287°<", ">1.57 %<"}},
         sheet_case{"MarkupInACaption",
                    {line("<A&\"B\">\x01\xFF", {{57, 55}, {58, 56}})},
                    1,
@@ -100,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
     case_name);
 
 TEST(SectionMap, HasALetterForEachOfAtMostSixRegions) {
-    sheet many{.title = {}, .note = "; end", .wanted = language::russian, .lines = {}};
+    sheet many{.title = {}, .subtitle = {}, .note = "; end", .wanted = language::russian, .lines = {}};
     for (int i = 0; i < 12; ++i)
         many.lines.push_back(line("x", {{-150.0 + 25 * i, 50}, {-149.0 + 25 * i, 51}}));
     const std::string picture = section_map(many);
