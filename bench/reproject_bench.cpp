@@ -155,7 +155,7 @@ void measure(const std::string& oxhost, const fs::path& folder) {
     std::vector<std::vector<std::byte>> blobs(scene_count);
 
     const bool has_ogr2ogr = std::system("command -v ogr2ogr >/dev/null") == 0;
-    cost proj, sqlite, reproject, ogr2ogr;
+    cost proj, sqlite, reproject, without_undo, with_report, ogr2ogr;
     for (int round = 0; round < rounds; ++round) {
         std::vector<polyline> lines;
         for (std::size_t i = 0; i < scene_count; ++i) lines.push_back(line_of(i));
@@ -163,9 +163,15 @@ void measure(const std::string& oxhost, const fs::path& folder) {
         for (std::size_t i = 0; i < scene_count; ++i) oxhost::encode_line(lines[i], blobs[i]);
         fresh();
         sqlite.keep_best(plain_sqlite(copy, blobs));
-        fresh();
-        reproject.keep_best(
-            run_program({oxhost, "reproject", copy.string(), "--to", target, "--all", "--quiet"}));
+        const auto run_with = [&](cost& best, std::vector<std::string> options) {
+            fresh();
+            std::vector<std::string> command{oxhost, "reproject", copy, "--to", target, "--all", "--quiet"};
+            command.insert(command.end(), options.begin(), options.end());
+            best.keep_best(run_program(std::move(command)));
+        };
+        run_with(reproject, {});
+        run_with(without_undo, {"--no-undo"});
+        run_with(with_report, {"--report", folder / "report.json"});
         fs::remove(converted);
         if (has_ogr2ogr)
             ogr2ogr.keep_best(run_program({"ogr2ogr", "-f", "GPKG", "-s_srs", source, "-t_srs", target,
@@ -175,8 +181,12 @@ void measure(const std::string& oxhost, const fs::path& folder) {
     print("plain PROJ loop", proj);
     print("plain SQLite update", sqlite);
     print("oxhost reproject", reproject);
+    print("the same, --no-undo", without_undo);
+    print("the same, --report", with_report);
     if (has_ogr2ogr) print("ogr2ogr GPKG to GPKG", ogr2ogr);
     std::printf("oxhost / (PROJ + SQLite) = %.2f\n", reproject.seconds / (proj.seconds + sqlite.seconds));
+    std::printf("with undo / without      = %.2f\n", reproject.seconds / without_undo.seconds);
+    std::printf("with report / without    = %.2f\n", with_report.seconds / reproject.seconds);
     if (has_ogr2ogr) std::printf("oxhost / ogr2ogr         = %.2f\n", reproject.seconds / ogr2ogr.seconds);
 }
 

@@ -9,20 +9,26 @@ namespace oxhost {
 
 namespace {
 
+/// `id` is run and scene in one, see key_of: no index has to be kept up with each change.
 constexpr const char* tables = R"sql(
 CREATE TABLE IF NOT EXISTS ox_runs (
   id INTEGER PRIMARY KEY AUTOINCREMENT NOT NULL, started TEXT NOT NULL, target TEXT NOT NULL, proj4 TEXT NOT NULL);
 CREATE TABLE IF NOT EXISTS ox_undo (
-  id INTEGER PRIMARY KEY NOT NULL, run INTEGER NOT NULL, fid INTEGER NOT NULL, digest INTEGER NOT NULL,
-  caption TEXT NOT NULL, proj4 TEXT NOT NULL, geom BLOB, CONSTRAINT uk_ox_undo UNIQUE (run, fid));
-CREATE INDEX IF NOT EXISTS ox_undo_fid ON ox_undo (fid);
+  id INTEGER PRIMARY KEY NOT NULL, digest INTEGER NOT NULL, caption TEXT NOT NULL, proj4 TEXT NOT NULL, geom BLOB);
 )sql";
+
+constexpr std::int64_t rows_of_a_run = std::int64_t{1} << 40;
+
+std::int64_t key_of(std::int64_t run, std::int64_t row) {
+    if (row < 0 || row >= rows_of_a_run) throw sqlite::error(SQLITE_RANGE, "fid out of range");
+    return run * rows_of_a_run + row;
+}
 
 /// A change of a scene that the run has changed before leaves the first state and renews the digest.
 constexpr auto keep_sql =
-    "INSERT INTO ox_undo (run, fid, digest, caption, proj4, geom)"
-    " SELECT ?1, fid, ?3, caption, proj4, geom FROM scenes WHERE fid=?2"
-    " ON CONFLICT (run, fid) DO UPDATE SET digest=excluded.digest";
+    "INSERT INTO ox_undo (id, digest, caption, proj4, geom)"
+    " SELECT ?1, ?3, caption, proj4, geom FROM scenes WHERE fid=?2"
+    " ON CONFLICT (id) DO UPDATE SET digest=excluded.digest";
 
 class mixer {
 public:
@@ -86,7 +92,7 @@ void undo_log::note(std::int64_t row, std::int64_t after) {
         return;
     }
     if (!started_) start();
-    keep_.bind(1, run_).bind(2, row).bind(3, after).run();
+    keep_.bind(1, key_of(run_, row)).bind(2, row).bind(3, after).run();
 }
 
 void undo_log::end() {
@@ -101,11 +107,7 @@ void undo_log::end() {
 }
 
 void undo_log::forget_scenes_of_run() {
-    sqlite::statement(db_,
-                      "DELETE FROM ox_undo WHERE fid IN (SELECT fid FROM ox_undo WHERE run=?1) AND run<>?1")
-        .bind(1, run_)
-        .run();
-    sqlite::statement(db_, "DELETE FROM ox_undo WHERE run=?1").bind(1, run_).run();
+    for (const record& each : records(run_)) drop(each.row, 0);
 }
 
 // ---- all of them
@@ -118,9 +120,9 @@ std::vector<past_run> undo_log::runs() {
     std::vector<past_run> found;
     if (!has_tables()) return found;
     sqlite::statement rows(db_,
-                           "SELECT id, started, target, proj4, count FROM ox_runs JOIN"
-                           " (SELECT run, count(*) AS count FROM ox_undo GROUP BY run) ON run=id"
-                           " ORDER BY id DESC");
+                           "SELECT ox_runs.id, started, target, ox_runs.proj4, count(*) FROM ox_undo JOIN"
+                           " ox_runs ON ox_runs.id = ox_undo.id / 1099511627776"  // rows_of_a_run
+                           " GROUP BY ox_runs.id ORDER BY ox_runs.id DESC");
     while (rows.step())
         found.push_back({.id = rows.integer(0),
                          .started = rows.text(1),
@@ -131,9 +133,10 @@ std::vector<past_run> undo_log::runs() {
 
 std::vector<undo_log::record> undo_log::records(std::int64_t run) {
     std::vector<record> found;
-    sqlite::statement rows(db_, "SELECT id, fid, digest, caption FROM ox_undo WHERE run=?1 ORDER BY fid");
-    rows.bind(1, run);
-    while (rows.step()) found.push_back({rows.integer(0), rows.integer(1), rows.integer(2), rows.text(3)});
+    sqlite::statement rows(db_, "SELECT id, digest, caption FROM ox_undo WHERE id>=?1 AND id<?2 ORDER BY id");
+    rows.bind(1, key_of(run, 0)).bind(2, key_of(run + 1, 0));
+    while (rows.step())
+        found.push_back({rows.integer(0), rows.integer(0) % rows_of_a_run, rows.integer(1), rows.text(2)});
     return found;
 }
 
@@ -149,12 +152,16 @@ undo_log::content undo_log::read(const record& kept) {
 }
 
 void undo_log::drop(std::int64_t row, std::int64_t since_run) {
-    if (!drop_) drop_ = {db_, "DELETE FROM ox_undo WHERE fid=?1 AND run>=?2"};
+    if (!drop_)
+        drop_ = {db_,
+                 "DELETE FROM ox_undo WHERE id IN (SELECT id*1099511627776+?1 FROM ox_runs WHERE id>=?2)"};
     drop_.bind(1, row).bind(2, since_run).run();
 }
 
 void undo_log::remove_empty_runs() {
-    db_.run("DELETE FROM ox_runs WHERE id NOT IN (SELECT run FROM ox_undo)");
+    db_.run(
+        "DELETE FROM ox_runs WHERE NOT EXISTS (SELECT 1 FROM ox_undo WHERE ox_undo.id >= "
+        "ox_runs.id*1099511627776 AND ox_undo.id < (ox_runs.id+1)*1099511627776)");
 }
 
 void undo_log::close() {
