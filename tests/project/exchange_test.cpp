@@ -1,18 +1,9 @@
 #include "exchange/exchange.h"
 
-#include "testing/case_name.h"
-#include "workspace.h"
+#include "imported.h"
 
 namespace project_test {
 namespace {
-
-std::pair<std::vector<new_scene>, import_counts> import(const fs::path& source,
-                                                        const import_options& options = {}) {
-    std::vector<new_scene> scenes;
-    const auto counts =
-        load_exchange().import_lines(source, options, [&](new_scene&& s) { scenes.push_back(std::move(s)); });
-    return {scenes, counts};
-}
 
 void export_all(const fs::path& out, std::span<const new_scene> scenes, const std::string& crs = "",
                 const fs::path& project_file = {}) {
@@ -20,58 +11,6 @@ void export_all(const fs::path& out, std::span<const new_scene> scenes, const st
     load_exchange().export_lines(out, project_file, crs, [&]() -> std::optional<new_scene> {
         return at == scenes.end() ? std::nullopt : std::optional(*at++);
     });
-}
-
-constexpr auto source_text = R"({"type": "FeatureCollection", "name": "lines", "features": [
-{"type": "Feature", "properties": {"Name": "Own", "proj4": "+proj=utm +zone=40"},
- "geometry": {"type": "LineString", "coordinates": [[500000.25, 6200000.5, 120], [500100, 6200000, 130]]}},
-{"type": "Feature", "properties": {"Name": "None", "proj4": "", "profile": false},
- "geometry": {"type": "LineString", "coordinates": [[1, 2], [3, 4]]}},
-{"type": "Feature", "properties": {"Name": "Layer's"},
- "geometry": {"type": "MultiLineString", "coordinates": [[[60, 55], [61, 56]], [[62, 57], [63, 58]]]}},
-{"type": "Feature", "properties": {}, "geometry": {"type": "LineString", "coordinates": [[0.1, 0.2], [0.3, 0.4]]}},
-{"type": "Feature", "properties": {"Name": "Well"}, "geometry": {"type": "Point", "coordinates": [60, 55]}}]})";
-
-TEST(Import, TakesCaptionsProjectionsAndParts) {
-    const scratch_folder folder;
-    write_bytes(folder / "s.geojson", source_text);
-    import_options options;
-    options.crs_text = [](std::string_view code) { return "text of " + std::string(code); };
-    const auto [read, counts] = import(folder / "s.geojson", options);
-    const std::vector<new_scene> expected{
-        {"Own", true, "+proj=utm +zone=40", polyline{{500000.25, 6200000.5}, {500100, 6200000}}},
-        {"None", false, "", polyline{{1, 2}, {3, 4}}},
-        {"Layer's 1", true, "text of EPSG:4326", polyline{{60, 55}, {61, 56}}},
-        {"Layer's 2", true, "text of EPSG:4326", polyline{{62, 57}, {63, 58}}},
-        {"lines 3", true, "text of EPSG:4326", polyline{{0.1, 0.2}, {0.3, 0.4}}}};
-    make_project(folder / "read.gpkg", read);
-    expect_scenes(*project::open(folder / "read.gpkg", open_mode::read_only), expected);
-    EXPECT_TRUE(counts.scenes == 5 && counts.skipped == 1);
-
-    for (const new_scene& scene :
-         import(folder / "s.geojson", {.proj4 = "forced", .not_profile = true, .crs_text = {}}).first)
-        EXPECT_TRUE(scene.proj4 == "forced" && !scene.profile);
-    EXPECT_EQ(import(folder / "s.geojson").first[2].proj4, "+proj=longlat +datum=WGS84 +no_defs");
-}
-
-/// GDAL's own tool writes the source; the import gives a text with what is expected. Eastings and longitudes
-/// come first whatever the authority says.
-TEST_CASES(ImportCrs, KeepsDatumAndAxes, case_of<const char*>, {"GaussKrueger", "EPSG:28407", "+x_0=7500000"},
-           {"LatitudeFirst", "EPSG:4326", "+proj=longlat"}) {
-    const scratch_folder folder;
-    write_bytes(
-        folder / "s.geojson",
-        R"({"type": "Feature", "properties": {}, "geometry": {"type": "LineString", "coordinates": [[39, 55], [39, 56]]}})");
-    for (const char* kind : {"gpkg", "shp", "gml"}) {
-        const std::string source = folder / (std::string("t.") + kind);
-        output_of("ogr2ogr -t_srs " + std::string(c.given) + " " + source + " " + (folder / "s.geojson"));
-        const auto read = import(source).first;
-        ASSERT_EQ(read.size(), 1U) << kind;
-        EXPECT_NE(read[0].proj4.find(c.expected), std::string::npos) << kind << read[0].proj4;
-        const auto [x, y] = read[0].line->xy[0];
-        EXPECT_TRUE(y > 6e6 ? x > 7.4e6 && x < 7.6e6 : x > 38 && x < 40 && y > 54 && y < 56)
-            << kind << x << " " << y;
-    }
 }
 
 class RoundTrip : public testing::TestWithParam<std::string> {};
@@ -82,10 +21,10 @@ TEST_P(RoundTrip, GivesTheSameProject) {
     std::vector<new_scene> scenes{sample_scenes.begin(), sample_scenes.begin() + 3};
     scenes[1].line = polyline{{0.1 + 0.2, 1.0 / 3}, {1234567.1234567891, 1e-7 / 3}, {-5, 6e15 / 7}};
     export_all(out, scenes);
-    make_project(folder / "again.gpkg", import(out).first);
+    make_project(folder / "again.gpkg", imported(out).scenes);
     expect_scenes(*project::open(folder / "again.gpkg", open_mode::read_only), scenes);
     export_all(out, std::span(scenes).first(1));
-    EXPECT_EQ(import(out).first.size(), 1U) << "an existing file is replaced";
+    EXPECT_EQ(imported(out).scenes.size(), 1U) << "an existing file is replaced";
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, RoundTrip, testing::Values("geojson", "gpkg", "shp"),
@@ -112,8 +51,8 @@ TEST(Exchange, FailuresNameTheFileAndLeaveOutputs) {
         EXPECT_TRUE(error.starts_with((folder / file) + ": ")) << error;
         EXPECT_EQ(error.find('\n'), std::string::npos) << error;
     };
-    refused("none.shp", [&] { import(folder / "none.shp"); });
-    refused("text.geojson", [&] { import(folder / "text.geojson"); });
+    refused("none.shp", [&] { imported(folder / "none.shp"); });
+    refused("text.geojson", [&] { imported(folder / "text.geojson"); });
     refused("o.pdf", [&] { export_all(folder / "o.pdf", sample_scenes); });
     refused("p.gpkg", [&] { export_all(folder / "p.gpkg", sample_scenes, "", folder / "p.gpkg"); });
     refused("no/o.gpkg", [&] { export_all(folder / "no/o.gpkg", sample_scenes); });
