@@ -64,9 +64,16 @@ std::string gdal_text(const OGRSpatialReference& crs) {
 
 /// The projection file beside a layer's file; empty when there is none.
 fs::path prj_beside(const fs::path& source, OGRLayer& layer) {
-    const fs::path file = fs::is_directory(source) ? source / (std::string(layer.GetName()) + ".prj")
-                                                   : fs::path(source).replace_extension(".prj");
+    const std::string name = std::string(layer.GetName()) + ".prj";
+    const fs::path file =
+        fs::is_directory(source) ? source / name : fs::path(source).replace_extension(".prj");
     return fs::exists(file) ? file : fs::path();
+}
+
+/// Whether the projection file's companion is read for the layer: it belongs to shapefiles.
+bool has_companion(const fs::path& source, const fs::path& prj) {
+    const std::string kind = lower(source.extension().string());
+    return (kind == ".shp" || fs::is_directory(source)) && fs::exists(prj.string() + ".pj4");
 }
 
 std::string in_quotes(const std::string& name) { return '"' + name + '"'; }
@@ -81,9 +88,13 @@ layer_crs read_layer_crs(const fs::path& source, OGRLayer& layer, const import_o
         found.northing_first = is_northing_first(*crs);
         if (!crs->IsLocal()) found.name = name_of(*crs);
     }
-    // A companion holds what the file itself could not; without one GDAL has read the file already.
-    const bool companion = !prj.empty() && fs::exists(prj.string() + ".pj4");
-    if (options.prj_text && !prj.empty() && (companion || !crs)) found.proj4 = options.prj_text(prj);
+    // A companion holds what the file itself could not; GDAL has read the file of a shapefile already.
+    if (options.prj_text && !prj.empty() && (!crs || has_companion(source, prj))) {
+        found.proj4 = options.prj_text(prj);
+        if (!found.proj4.empty() && !crs)
+            found.remarks.push_back(words("проекция взята из файла ", "projection taken from the file ") +
+                                    prj.filename().string());
+    }
     if (!found.proj4.empty() || !crs || crs->IsLocal()) return found;
 
     const std::string code = code_of(*crs);

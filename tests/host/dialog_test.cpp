@@ -45,7 +45,7 @@ TEST(ProjectionDialog, GivesTheTextToAnotherCommand) {
                                 program + "reproject p.gpkg --all --yes --to \"$(" + program +
                                     "project --epsg 32640)\" >.out 2>.error; exit $?;");
     ASSERT_EQ(run.code, 0) << box.bytes(".error");
-    EXPECT_NEAR(box.exported_lines().at(0).at(1).x, 166021.44, 0.01);
+    EXPECT_NEAR(box.stored_lines().at(0).at(1).x, 166021.44, 0.01);
 }
 
 TEST(ProjectionDialog, FollowsTheOrderOfTheCommandLine) {
