@@ -45,6 +45,7 @@ void add_export(CLI::App& app, action& chosen);
 void add_describe(CLI::App& app, action& chosen);
 void add_project(CLI::App& app, action& chosen);
 void add_favourites(CLI::App& app, action& chosen);
+void add_guess(CLI::App& app, action& chosen);
 void add_catalogue(CLI::App& app, action& chosen);
 void add_undo(CLI::App& app, action& chosen);
 void add_utilities(CLI::App& app, action& chosen);

@@ -49,7 +49,7 @@ int run(int argc, char** argv) {
     add_language(app);
     action chosen;
     for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
-                           add_favourites, add_catalogue, add_undo, add_utilities})
+                           add_favourites, add_guess, add_catalogue, add_undo, add_utilities})
         add(app, chosen);
     try {
         app.parse(argc, argv);

@@ -108,7 +108,8 @@ dialog_act loading(const std::string& file) {
 /// Says on the error output how the text differs from what was taken over; answers whether it does.
 bool tell_difference(const std::string& taken, const std::string& composed) {
     const text_difference difference = difference_of(taken, composed, current_language());
-    if (difference.changed()) std::cerr << "oxhost: " << difference_line(difference, current_language()) << '\n';
+    if (difference.changed())
+        std::cerr << "oxhost: " << difference_line(difference, current_language()) << '\n';
     return difference.changed();
 }
 

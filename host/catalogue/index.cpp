@@ -1,5 +1,6 @@
 #include "catalogue/index.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -38,6 +39,14 @@ const index_entry* catalogue_index::find(const std::string& part, const std::str
                                          const std::string& zone) const {
     const auto entry = entries_.find({part, name, zone});
     return entry == entries_.end() ? nullptr : &entry->second;
+}
+
+std::vector<std::string> catalogue_index::zones_of(const std::string& code) const {
+    std::vector<std::string> zones;
+    for (const auto& [key, entry] : entries_)
+        if (key[0] == "zones" && std::ranges::find(entry.codes, code) != entry.codes.end())
+            zones.push_back(key[1] + ", " + key[2]);
+    return zones;
 }
 
 void write_index(const std::filesystem::path& file, const catalogue_records& records) {

@@ -28,6 +28,8 @@ public:
     /// `part`: ellipsoids, datums, projections or zones. `zone`: a zone as the dialog names it, else empty.
     /// Null for a row that is not there.
     const index_entry* find(const std::string& part, const std::string& name, const std::string& zone) const;
+    /// The zones of an EPSG code, as "name, zone".
+    std::vector<std::string> zones_of(const std::string& code) const;
 
 private:
     std::map<std::array<std::string, 3>, index_entry> entries_;

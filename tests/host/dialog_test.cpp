@@ -198,4 +198,26 @@ TEST(Describe, TellsCodeEllipsoidDatumAndWarnings) {
     EXPECT_NE(warned.out.find("no datum shift"), std::string::npos) << warned.out;
 }
 
+/// Names, areas and shifts as `projinfo` gives them.
+TEST(Describe, TellsWhatIsPublished) {
+    const sandbox box;
+    const struct {
+        const char* target;
+        std::vector<const char*> parts;
+    } cases[] = {
+        {"EPSG:28407",
+         {"Name: Pulkovo 1942 / Gauss-Kruger zone 7", "Area of use: Georgia - onshore west of 36",
+          "36..42°"}},
+        {"EPSG:4284", {"EPSG:5044, Pulkovo 1942 to WGS 84 (20): 23.57,-140.95,-79.8,", "accuracy 3 m"}},
+        {utm40, {"Name: WGS 84 / UTM zone 40N"}},
+        {"EPSG:4978", {"Kind: geocentric"}},
+        {"EPSG:5773", {"Kind: vertical", "Name: EGM96 height"}}};
+    for (const auto& [target, parts] : cases) {
+        const auto run = box.oxhost({"describe", target});
+        EXPECT_EQ(run.code, 0) << run.error;
+        for (const char* part : parts)
+            EXPECT_NE(run.out.find(part), std::string::npos) << part << '\n' << run.out;
+    }
+}
+
 }  // namespace
