@@ -37,7 +37,7 @@ TEST(Undo, TakesRunsBackAndLayersFollow) {
                       {"second", gauss_kruger_10, {{10410000, 6200000}, {10450000, 6250000}}},
                       {"third", utm40, {{400000, 6200000}, {410000, 6200000}}},
                       {"nowhere", "", {{1, 2}, {3, 4}}}});
-    const auto before = box.exported_lines();
+    const auto before = box.stored_lines();
     const auto texts = box.listed("proj4");
     EXPECT_EQ(layers(box), "scenes;scenes 1;scenes EPSG 32640;");
     // cs2cs -f %.6f to +proj=longlat +datum=WGS84, PROJ 9.1.1
@@ -61,7 +61,7 @@ TEST(Undo, TakesRunsBackAndLayersFollow) {
     EXPECT_EQ(box.listed("proj4"), after);
     EXPECT_EQ(box.oxhost({"undo", "p.gpkg"}).code, 0);
     EXPECT_EQ(box.listed("proj4"), texts);
-    EXPECT_EQ(box.exported_lines(), before);
+    EXPECT_EQ(box.stored_lines(), before);
     EXPECT_EQ(layers(box), "scenes;scenes 1;scenes EPSG 32640;");
     EXPECT_EQ(box.oxhost({"undo", "p.gpkg"}).code, 2);
 }
