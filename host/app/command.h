@@ -52,11 +52,6 @@ inline constexpr bilingual target_help{
     "EPSG:n или просто n, текст proj4, файл .pj4 или .prj либо none (без проекции)",
     "EPSG:n or n alone, a proj4 text, a .pj4 or .prj file, or none"};
 
-/// What CLI11 takes for a text is a string.
-inline std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 // Options of several commands. `result` outlives the parsing.
 /// `--verbose`, of the program and of each subcommand: exceptions that end at a border are told.
 void add_verbose(CLI::App& app);

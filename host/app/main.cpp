@@ -4,6 +4,10 @@
 
 #include "app/command.h"
 #include "app/help.h"
+#include "base/language.h"
+#include "exchange/exchange.h"
+#include "geodesy/proj_context.h"
+#include "project/sqlite.h"
 #include "session/border.h"
 
 namespace {
@@ -23,6 +27,20 @@ constexpr bilingual closing_words{
 
 int answer(exit_code code) { return static_cast<int>(code); }
 
+/// The program's, then those of what computes, stores and exchanges, one a line.
+std::string versions() {
+    const proj_versions proj = versions_of_proj();
+    std::string gdal;
+    try {
+        gdal = load_exchange().version();
+    } catch (const exchange_error& error) {
+        gdal = error.what();
+    }
+    return "oxhost " OXHOST_VERSION "\nPROJ " + proj.library +
+           (proj.database.empty() ? "" : " (" + proj.database + ')') + "\nGDAL " + gdal + "\nSQLite " +
+           sqlite::version();
+}
+
 int run(int argc, char** argv) {
     settle_language(argc, argv);
     CLI::App app{words("Перепроецирование линий разрезов сцен профилей",
@@ -31,7 +49,7 @@ int run(int argc, char** argv) {
     app.formatter(help_formatter());
     app.set_help_flag("-h,--help", words("Эта справка", "This help"));
     app.set_version_flag(
-        "--version", "oxhost " OXHOST_VERSION,
+        "--version", versions,
         words("Версии программы и её библиотек", "Versions of the program and its libraries"));
     app.footer(std::string(closing_words));
     app.require_subcommand(0, 1);

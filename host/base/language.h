@@ -31,6 +31,11 @@ inline std::string_view in_language(std::string_view russian, std::string_view e
     return text_in(current_language(), russian, english);
 }
 
+/// The same to be added to.
+inline std::string words(std::string_view russian, std::string_view english) {
+    return std::string(in_language(russian, english));
+}
+
 /// A text for the user that is in the language of the moment when it is taken as one.
 struct bilingual {
     std::string_view russian;

@@ -42,6 +42,9 @@ class exchange {
 public:
     virtual ~exchange() = default;
 
+    /// Of GDAL, such as "3.6.2".
+    virtual std::string version() const = 0;
+
     /// Hands every line of `source` to `sink`: layer by layer, in file order, multi-lines as numbered parts.
     /// A feature without geometry that carries `profile` is a scene without line. Captions are the
     /// property caption, name or title, else layer and feature number. Heights are dropped.

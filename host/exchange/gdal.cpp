@@ -33,6 +33,8 @@ class gdal_exchange final : public oxhost::exchange {
 public:
     gdal_exchange() { GDALAllRegister(); }
 
+    std::string version() const override { return GDALVersionInfo("RELEASE_NAME"); }
+
     oxhost::import_counts import_lines(const std::filesystem::path& source,
                                        const oxhost::import_options& options,
                                        const std::function<void(oxhost::new_scene&&)>& sink) override {
