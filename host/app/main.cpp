@@ -4,8 +4,12 @@
 
 #include "app/command.h"
 #include "app/help.h"
+#include "base/language.h"
+#include "exchange/exchange.h"
 #include "geodesy/gis_crs.h"
+#include "geodesy/proj_context.h"
 #include "project/gis_systems.h"
+#include "project/sqlite.h"
 #include "session/border.h"
 
 namespace {
@@ -34,6 +38,20 @@ std::optional<oxhost::gis_system> look_up(const std::string& proj4, const oxhost
 
 void tell(const std::string& line) { std::cerr << line << '\n'; }
 
+/// The program's, then those of what computes, stores and exchanges, one a line.
+std::string versions() {
+    const proj_versions proj = versions_of_proj();
+    std::string gdal;
+    try {
+        gdal = load_exchange().version();
+    } catch (const exchange_error& error) {
+        gdal = error.what();
+    }
+    return "oxhost " OXHOST_VERSION "\nPROJ " + proj.library +
+           (proj.database.empty() ? "" : " (" + proj.database + ')') + "\nGDAL " + gdal + "\nSQLite " +
+           sqlite::version();
+}
+
 int run(int argc, char** argv) {
     settle_language(argc, argv);
     CLI::App app{words("Перепроецирование линий разрезов сцен профилей",
@@ -42,7 +60,7 @@ int run(int argc, char** argv) {
     app.formatter(help_formatter());
     app.set_help_flag("-h,--help", words("Эта справка", "This help"));
     app.set_version_flag(
-        "--version", "oxhost " OXHOST_VERSION,
+        "--version", versions,
         words("Версии программы и её библиотек", "Versions of the program and its libraries"));
     app.footer(std::string(closing_words));
     app.require_subcommand(0, 1);

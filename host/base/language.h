@@ -31,7 +31,7 @@ inline std::string_view in_language(std::string_view russian, std::string_view e
     return text_in(current_language(), russian, english);
 }
 
-/// The same as a text of its own.
+/// The same to be added to.
 inline std::string words(std::string_view russian, std::string_view english) {
     return std::string(in_language(russian, english));
 }

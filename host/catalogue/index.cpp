@@ -5,6 +5,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "base/language.h"
+
 namespace oxhost {
 namespace {
 
@@ -57,7 +59,7 @@ void write_index(const std::filesystem::path& file, const catalogue_records& rec
     for (const auto& record : records.usual) out << line_of("projections", "PRJ_NAME", record) << '\n';
     for (const auto& record : records.zonal) out << line_of("zones", "PRJ_NAME", record) << '\n';
     out.close();
-    if (!out) throw std::runtime_error(file.string() + ": cannot be written");
+    if (!out) throw std::runtime_error(file.string() + words(": не записывается", ": cannot be written"));
 }
 
 }  // namespace oxhost

@@ -8,6 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "base/language.h"
 #include "base/numbers.h"
 
 namespace oxhost {
@@ -19,14 +20,16 @@ namespace {
 
 double require_number(const tsv_row& row, std::string_view text) {
     const auto number = parse_number(text);
-    if (!number) refuse(row, "\"" + std::string(text) + "\" is no number");
+    if (!number) refuse(row, "\"" + std::string(text) + words("\" — не число", "\" is no number"));
     return *number;
 }
 
 int whole_number(const tsv_row& row, std::string_view column) {
     const std::string& text = row[column];
     const auto number = parse_whole_number(text);
-    if (!number) refuse(row, std::string(column) + " \"" + text + "\" is no whole number");
+    if (!number)
+        refuse(row,
+               std::string(column) + " \"" + text + words("\" — не целое число", "\" is no whole number"));
     return static_cast<int>(*number);
 }
 
@@ -66,7 +69,8 @@ catalogue_record ellipsoid_record(const tsv_row& row) {
     for (const char* column : {"A", "B", "RF"}) {
         if (!row[column].empty()) require_number(row, row[column]);
     }
-    if (row["A"].empty() || row["B"].empty() == row["RF"].empty()) refuse(row, "needs A and one of B and RF");
+    if (row["A"].empty() || row["B"].empty() == row["RF"].empty())
+        refuse(row, words("нужны A и одно из B и RF", "needs A and one of B and RF"));
     whole_number(row, "ELLPS_ID");
     return begin_record(row, {"ELLPS_ID", "ELLPS_NAME", "ELLPS", "A", "B", "RF"});
 }
@@ -81,7 +85,8 @@ catalogue_record datum_record(const tsv_row& row, const std::vector<catalogue_re
     }
     const auto ellipsoid = std::ranges::find(ellipsoids, row["ellipsoid"],
                                              [](const catalogue_record& e) { return e.text("ELLPS_NAME"); });
-    if (ellipsoid == ellipsoids.end()) refuse(row, "no ellipsoid \"" + row["ellipsoid"] + "\"");
+    if (ellipsoid == ellipsoids.end())
+        refuse(row, words("нет эллипсоида \"", "no ellipsoid \"") + row["ellipsoid"] + "\"");
     record.fields["ELLPS_ID"] = ellipsoid->text("ELLPS_ID");
     record.also = row["also"];
     std::istringstream codes(row["systems"]);
@@ -119,7 +124,9 @@ std::string meridian_text(double longitude) {
 std::string zone_name(const tsv_row& row, int zone, double meridian) {
     std::string label = row["label"];
     const auto place = label.find('#');
-    if (place == std::string::npos) refuse(row, "the label has no place for the zone's number");
+    if (place == std::string::npos)
+        refuse(row,
+               words("в названии нет места для номера зоны", "the label has no place for the zone's number"));
     return label.replace(place, 1, std::to_string(zone)) + " (CM " + meridian_text(meridian) + ")";
 }
 
@@ -156,7 +163,8 @@ void require_distinct(const std::vector<catalogue_record>& records,
         std::string key;
         for (const char* column : columns) key += (key.empty() ? "" : ", ") + record.text(column);
         if (!seen.insert(key).second)
-            throw std::runtime_error(record.place + ": \"" + key + "\" is there already");
+            throw std::runtime_error(record.place + ": \"" + key +
+                                     words("\" уже есть", "\" is there already"));
     }
 }
 
@@ -182,7 +190,8 @@ catalogue_records read_catalogue_sources(const std::filesystem::path& folder) {
         const auto named = [&](const catalogue_record& datum) {
             return datum.text("DATUM_NAME") == row["DATUM"];
         };
-        if (std::ranges::none_of(all.datums, named)) refuse(row, "no datum \"" + row["DATUM"] + "\"");
+        if (std::ranges::none_of(all.datums, named))
+            refuse(row, words("нет датума \"", "no datum \"") + row["DATUM"] + "\"");
         for (int zone = whole_number(row, "first"); zone <= whole_number(row, "last"); ++zone) {
             all.zonal.push_back(zonal_record(row, zone));
         }

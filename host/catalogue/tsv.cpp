@@ -3,6 +3,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "base/language.h"
+
 namespace oxhost {
 namespace {
 
@@ -20,13 +22,14 @@ std::vector<std::string> split(std::string_view line) {
 
 const std::string& tsv_row::operator[](std::string_view column) const {
     const auto cell = cells.find(column);
-    if (cell == cells.end()) throw std::runtime_error(place + ": no column " + std::string(column));
+    if (cell == cells.end())
+        throw std::runtime_error(place + words(": нет столбца ", ": no column ") + std::string(column));
     return cell->second;
 }
 
 std::vector<tsv_row> read_tsv(const std::filesystem::path& path) {
     std::ifstream file(path);
-    if (!file) throw std::runtime_error(path.string() + ": cannot be opened");
+    if (!file) throw std::runtime_error(path.string() + words(": не открывается", ": cannot be opened"));
     std::vector<std::string> columns;
     std::vector<tsv_row> rows;
     std::string line;
@@ -40,13 +43,15 @@ std::vector<tsv_row> read_tsv(const std::filesystem::path& path) {
         }
         tsv_row row{path.filename().string() + ":" + std::to_string(number), {}};
         if (cells.size() != columns.size()) {
-            throw std::runtime_error(row.place + ": " + std::to_string(cells.size()) + " cells instead of " +
+            throw std::runtime_error(row.place + words(": число ячеек: ", ": number of cells: ") +
+                                     std::to_string(cells.size()) + words(" вместо ", " instead of ") +
                                      std::to_string(columns.size()));
         }
         for (std::size_t i = 0; i < cells.size(); ++i) row.cells.emplace(columns[i], std::move(cells[i]));
         rows.push_back(std::move(row));
     }
-    if (file.bad()) throw std::runtime_error(path.string() + ": error while reading");
+    if (file.bad())
+        throw std::runtime_error(path.string() + words(": ошибка чтения", ": error while reading"));
     return rows;
 }
 

@@ -68,6 +68,9 @@ class exchange {
 public:
     virtual ~exchange() = default;
 
+    /// Of GDAL, such as "3.6.2".
+    virtual std::string version() const = 0;
+
     /// Hands every line of `source` to `taker`: layer by layer, in file order, several lines of one feature
     /// as numbered parts, each with heights, measures and the feature's attributes. Captions are the property
     /// caption, name or title, else layer and feature number. A feature without geometry that carries

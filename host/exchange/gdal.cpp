@@ -46,6 +46,8 @@ class gdal_exchange final : public oxhost::exchange {
 public:
     gdal_exchange() { GDALAllRegister(); }
 
+    std::string version() const override { return GDALVersionInfo("RELEASE_NAME"); }
+
     oxhost::import_report import_lines(const std::filesystem::path& source,
                                        const oxhost::import_options& options,
                                        oxhost::scene_taker& taker) override {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "base/language.h"
 #include "base/numbers.h"
 
 namespace oxhost::headless {
@@ -15,7 +16,7 @@ namespace {
 std::string in_quotes(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 std::string joined(const std::vector<std::string>& names) {
-    if (names.empty()) return "nothing";
+    if (names.empty()) return words("ничего", "nothing");
     std::string all;
     for (const std::string& name : names) all += (all.empty() ? "" : ", ") + in_quotes(name);
     return all;
@@ -60,12 +61,14 @@ node& the_one(shell::open_dialog& dialog, const std::vector<node*>& there, std::
     if (fitting.size() == 1) return *fitting.front();
     std::vector<std::string> names;
     for (node* each : there) names.push_back(each->name());
-    const std::string place = "the dialog " + in_quotes(dialog.caption());
+    const std::string place = words("диалог ", "the dialog ") + in_quotes(dialog.caption());
     if (fitting.empty())
-        throw impossible(place + " has no " + std::string(what) + ' ' + in_quotes(name) + "; it has " +
-                         joined(names));
-    throw impossible(place + " has " + std::to_string(fitting.size()) + ' ' + std::string(what) + "s " +
-                     in_quotes(name) + "; name the group too, as in \"Group/Name\"");
+        throw impossible(place + words(": нет элемента ", " has no ") + std::string(what) + ' ' +
+                         in_quotes(name) + words("; есть ", "; it has ") + joined(names));
+    throw impossible(
+        place + words(": подходящих элементов ", " has ") + std::to_string(fitting.size()) + ' ' +
+        std::string(what) + words(" ", "s ") + in_quotes(name) +
+        words("; назовите и группу: \"Группа/Название\"", "; name the group too, as in \"Group/Name\""));
 }
 
 /// Does the item begin with this whole word or number? "1N (CM 177W)" begins with "1" and "1N", not "10N".
@@ -92,8 +95,9 @@ std::vector<std::string>::const_iterator item_of(const std::vector<std::string>&
 
 node& the_only(shell::open_dialog& dialog, const std::vector<node*>& there, std::string_view what) {
     if (there.size() == 1) return *there.front();
-    throw impossible("the dialog " + in_quotes(dialog.caption()) + " has " + std::to_string(there.size()) +
-                     ' ' + std::string(what) + "s, not one");
+    throw impossible(words("диалог ", "the dialog ") + in_quotes(dialog.caption()) +
+                     words(": элементов ", " has ") + std::to_string(there.size()) + ' ' + std::string(what) +
+                     words(", а не один", "s, not one"));
 }
 
 }  // namespace
@@ -117,8 +121,9 @@ node& dialog_hands::tool(std::string_view id) {
     if (found != tools.end()) return **found;
     std::vector<std::string> ids;
     for (node* each : tools) ids.push_back(each->id());
-    throw impossible("the dialog " + in_quotes(dialog_.caption()) + " has no tool " + in_quotes(id) +
-                     "; it has " + joined(ids));
+    throw impossible(words("диалог ", "the dialog ") + in_quotes(dialog_.caption()) +
+                     words(": нет инструмента ", " has no tool ") + in_quotes(id) +
+                     words("; есть ", "; it has ") + joined(ids));
 }
 
 std::vector<node*> dialog_hands::all_in_group(node_kind kind, std::string_view group) {
@@ -131,11 +136,13 @@ node& dialog_hands::menu_button() {
 
 void dialog_hands::click(std::string_view button) {
     if (!find(node_kind::button, button).click())
-        throw impossible("the button " + in_quotes(button) + " is off");
+        throw impossible(words("кнопка ", "the button ") + in_quotes(button) +
+                         words(" отключена", " is off"));
 }
 
 void dialog_hands::click_tool(std::string_view id) {
-    if (!tool(id).click()) throw impossible("the tool " + in_quotes(id) + " is off");
+    if (!tool(id).click())
+        throw impossible(words("инструмент ", "the tool ") + in_quotes(id) + words(" отключён", " is off"));
 }
 
 void dialog_hands::type(std::string_view input, std::string_view text) {
@@ -155,22 +162,26 @@ void dialog_hands::enter(std::string_view number, double value) {
 void dialog_hands::change(node& control, std::string_view value) {
     const std::string called = in_quotes(control.name());
     if (!control.state().enabled || control.state().read_only)
-        throw impossible(called + " cannot be changed here");
+        throw impossible(called + words(" здесь не изменяется", " cannot be changed here"));
     if (control.kind() == node_kind::dropdown) {
         const auto& items = control.state().items;
         const auto item = item_of(items, value);
         if (item == items.end())
-            throw impossible(called + " has no item " + in_quotes(value) + "; it has " + joined(items));
+            throw impossible(called + words(": нет элемента ", " has no item ") + in_quotes(value) +
+                             words("; есть ", "; it has ") + joined(items));
         control.choose(static_cast<std::uint32_t>(item - items.begin()));
     } else if (control.kind() == node_kind::floating_input) {
         const auto number = parse_number(value);
-        if (!number) throw impossible(called + ": " + in_quotes(value) + " is no number");
+        if (!number)
+            throw impossible(called + ": " + in_quotes(value) + words(" — не число", " is no number"));
         const double low = control.state().minimum;
         const double high = control.state().maximum;
         if (*number < low || *number > high)
-            throw impossible(called + ": " + std::string(value) + " is not between " + number_text(low) +
-                             " and " + number_text(high));
-        if (!control.enter(*number)) throw impossible(called + " refuses " + std::string(value));
+            throw impossible(called + ": " + std::string(value) +
+                             words(" вне пределов от ", " is not between ") + number_text(low) +
+                             words(" до ", " and ") + number_text(high));
+        if (!control.enter(*number))
+            throw impossible(called + words(" не принимает ", " refuses ") + std::string(value));
     } else {
         control.type(value);  // whether it was accepted shows in what the dialog offers next
     }
@@ -187,7 +198,9 @@ std::vector<node*> entries_of(node& menu) {
 
 std::unique_ptr<node> opened(node& button) {
     auto menu = button.open_menu();
-    if (!menu) throw impossible("the button " + in_quotes(button.name()) + " opens no menu");
+    if (!menu)
+        throw impossible(words("кнопка ", "the button ") + in_quotes(button.name()) +
+                         words(" не открывает меню", " opens no menu"));
     return menu;
 }
 
@@ -204,24 +217,28 @@ void dialog_hands::choose_entry(node& button, std::size_t entry) {
     const auto menu = opened(button);
     const auto entries = entries_of(*menu);
     if (entry >= entries.size() || !entries[entry]->click())
-        throw impossible("the menu of " + in_quotes(button.name()) + " has no entry " +
-                         std::to_string(entry) + " to choose among its " + std::to_string(entries.size()));
+        throw impossible(words("меню ", "the menu of ") + in_quotes(button.name()) +
+                         words(": нет доступного пункта ", " has no entry ") + std::to_string(entry) +
+                         words(" среди ", " to choose among its ") + std::to_string(entries.size()));
 }
 
 bool dialog_hands::press(shell::button_role role) {
     const auto buttons = dialog_.buttons();
     const auto found = std::ranges::find(buttons, role, &shell::dialog_button::role);
     if (found == buttons.end())
-        throw impossible("the dialog " + in_quotes(dialog_.caption()) + " has no such standard button");
-    if (!found->enabled) throw impossible("the button " + in_quotes(found->caption) + " is off");
+        throw impossible(words("диалог ", "the dialog ") + in_quotes(dialog_.caption()) +
+                         words(": нет такой стандартной кнопки", " has no such standard button"));
+    if (!found->enabled)
+        throw impossible(words("кнопка ", "the button ") + in_quotes(found->caption) +
+                         words(" отключена", " is off"));
     return dialog_.press(static_cast<std::size_t>(found - buttons.begin()));
 }
 
 void check_rows(shell::table_model& table, std::span<const std::uint32_t> rows) {
     for (const std::uint32_t row : rows) {
         if (row >= table.row_count())
-            throw impossible("the table has no row " + std::to_string(row) + " among its " +
-                             std::to_string(table.row_count()));
+            throw impossible(words("в таблице нет строки ", "the table has no row ") + std::to_string(row) +
+                             words(" среди ", " among its ") + std::to_string(table.row_count()));
         table.check(row, true);
     }
 }

@@ -2,6 +2,8 @@
 
 namespace oxhost::sqlite {
 
+std::string version() { return sqlite3_libversion(); }
+
 namespace {
 
 constexpr int wait_for_lock_ms = 1000;

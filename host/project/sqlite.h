@@ -15,6 +15,9 @@
 
 namespace oxhost::sqlite {
 
+/// Of the library, such as "3.40.1".
+std::string version();
+
 struct error : std::runtime_error {
     error(int result, const char* message) : std::runtime_error(message), code(result) {}
     int code;  ///< SQLite's extended result code

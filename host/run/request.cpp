@@ -19,11 +19,9 @@ namespace fs = std::filesystem;
 target from_file(const std::string& given, const std::string& extension) {
     std::error_code ignored;
     if (!fs::exists(given, ignored))
-        throw failure(trouble::unreadable,
-                      given + std::string(in_language(": нет такого файла", ": no such file")));
+        throw failure(trouble::unreadable, given + words(": нет такого файла", ": no such file"));
     if (!fs::is_regular_file(given, ignored) || access(given.c_str(), R_OK) != 0)
-        throw failure(trouble::unreadable,
-                      given + std::string(in_language(": не читается", ": cannot be read")));
+        throw failure(trouble::unreadable, given + words(": не читается", ": cannot be read"));
     return {given, extension == ".pj4" ? load_pj4(given) : load_prj(given), fs::path(given)};
 }
 
@@ -33,16 +31,15 @@ target from_text(const std::string& given) {
         text, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
     text = trimmed(text);
     if (text.empty())
-        throw failure(trouble::refused,
-                      std::string(in_language("целевая проекция пуста; сбросить проекцию: \"none\"",
-                                              "the target is empty; \"none\" resets a projection")));
+        throw failure(trouble::refused, words("целевая проекция пуста; сбросить проекцию: \"none\"",
+                                              "the target is empty; \"none\" resets a projection"));
     if (text.find_first_not_of("0123456789") == text.npos) text.insert(0, "EPSG:");
     if (auto known = import_crs(text)) return {given, std::move(*known), {}};
     const std::string reason = text.find("proj=") != text.npos ? crs_of(text)->error : "";
-    throw failure(trouble::refused, '"' + given + "\": " +
-                                        std::string(in_language("PROJ не знает такой проекции",
-                                                                "no projection that PROJ knows")) +
-                                        (reason.empty() ? "" : " (" + reason + ')'));
+    throw failure(trouble::refused,
+                  '"' + given +
+                      "\": " + words("PROJ не знает такой проекции", "no projection that PROJ knows") +
+                      (reason.empty() ? "" : " (" + reason + ')'));
 }
 
 }  // namespace
@@ -53,10 +50,9 @@ target read_target(const std::string& given) {
     const bool file = extension == ".pj4" || extension == ".prj";
     target read = file ? from_file(given, extension) : from_text(given);
     if (const auto system = crs_of(read.proj4); !system->valid())
-        throw failure(trouble::refused,
-                      (file ? given + ": " : "") + '"' + read.proj4 +
-                          "\": " + std::string(in_language("PROJ отвергает этот текст", "PROJ refuses it")) +
-                          " (" + system->error + ')');
+        throw failure(trouble::refused, (file ? given + ": " : "") + '"' + read.proj4 +
+                                            "\": " + words("PROJ отвергает этот текст", "PROJ refuses it") +
+                                            " (" + system->error + ')');
     return read;
 }
 

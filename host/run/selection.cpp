@@ -36,10 +36,8 @@ scene* by_caption(project& opened, const std::string& caption) {
     for (scene* each : all_scenes(opened)) {
         if (each->caption != caption) continue;
         if (found)
-            refuse(opened,
-                   std::string(in_language("несколько сцен называются ", "several scenes are called ")) +
-                       '"' + caption + '"' +
-                       std::string(in_language(": укажите их номера", ": name them by their index")));
+            refuse(opened, words("несколько сцен называются ", "several scenes are called ") + '"' + caption +
+                               '"' + words(": укажите их номера", ": name them by their index"));
         found = each;
     }
     return found;
@@ -94,8 +92,7 @@ std::vector<scene*> named_by(project& opened, const std::string& wanted, bool on
     const auto index = index_in(opened, wanted);
     if (scene* one = index ? opened.at(*index) : by_caption(opened, wanted)) {
         if (only_listed && !is_listed(*one))
-            refuse(opened, name_of(*one) + std::string(in_language(" — не профиль с линией",
-                                                                   " is no profile with a line")));
+            refuse(opened, name_of(*one) + words(" — не профиль с линией", " is no profile with a line"));
         return {one};
     }
     auto found = by_range(opened, wanted).value_or(by_pattern(opened, wanted));
@@ -142,8 +139,7 @@ std::vector<scene*> scenes_in(const std::vector<scene*>& scenes, const std::vect
         if (!any)
             throw failure(trouble::refused,
                           '"' + source + "\": " +
-                              std::string(in_language("ни одна сцена не имеет этой проекции",
-                                                      "no scene has this projection")));
+                              words("ни одна сцена не имеет этой проекции", "no scene has this projection"));
     }
     std::vector<scene*> found;
     for (scene* each : scenes)

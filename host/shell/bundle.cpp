@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/language.h"
+
 namespace oxhost::shell {
 
 namespace {
@@ -24,7 +26,7 @@ constexpr std::size_t visit_factories_slot = 1;
 /// What the loader said, without the file's name in front.
 std::string loader_complaint(const fs::path& file) {
     const char* complaint = dlerror();
-    const std::string said = complaint ? complaint : "unknown reason";
+    const std::string said = complaint ? complaint : words("причина неизвестна", "unknown reason");
     const std::string prefix = file.string() + ": ";
     return said.starts_with(prefix) ? said.substr(prefix.size()) : said;
 }
@@ -54,21 +56,29 @@ void bundle::unmap::operator()(void* library) const { dlclose(library); }
 
 bundle::bundle(const fs::path& file) : file_(file) {
     std::error_code ignored;
-    if (!fs::exists(file, ignored)) refuse(file, "no such file");
-    if (!fs::is_regular_file(file, ignored)) refuse(file, "is not a file");
-    if (is_cut_short(file)) refuse(file, "cannot be loaded as a bundle: the file is cut short");
+    if (!fs::exists(file, ignored)) refuse(file, words("нет такого файла", "no such file"));
+    if (!fs::is_regular_file(file, ignored)) refuse(file, words("это не файл", "is not a file"));
+    if (is_cut_short(file))
+        refuse(file, words("не загружается как модуль: файл обрезан",
+                           "cannot be loaded as a bundle: the file is cut short"));
     const fs::path full = fs::absolute(file);  // a bare name would be looked for in the system's folders
     library_.reset(dlopen(full.c_str(), RTLD_NOW | RTLD_LOCAL));
-    if (!library_) refuse(file, "cannot be loaded as a bundle: " + loader_complaint(full));
+    if (!library_)
+        refuse(file, words("не загружается как модуль (", "cannot be loaded as a bundle (") +
+                         loader_complaint(full) + ')');
     const auto entry = reinterpret_cast<ox::custom_pointer (*)(void*)>(exported(entry_name));
     exported(unload_guard_name);
     interface_ = entry(this);
-    if (!interface_) refuse(file, "is no bundle: its entry answers nothing");
+    if (!interface_)
+        refuse(file, words("это не модуль: его вход ничего не отвечает",
+                           "is no bundle: its entry answers nothing"));
 }
 
 void* bundle::exported(const char* name) const {
     void* function = dlsym(library_.get(), name);
-    if (!function) refuse(file_, std::string("is no bundle: it does not export ") + name);
+    if (!function)
+        refuse(file_,
+               words("это не модуль: он не экспортирует ", "is no bundle: it does not export ") + name);
     return function;
 }
 

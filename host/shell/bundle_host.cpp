@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/language.h"
 #include "border/call.h"
 #include "shell/values.h"
 
@@ -59,7 +60,8 @@ std::string bundle_host::caption(const offered_utility& offered) const {
 void bundle_host::run(std::string_view utility_id) {
     const auto found = std::ranges::find(utilities(), utility_id, &offered_utility::id);
     if (found == utilities().end())
-        throw bundle_error(bundle_.file().string() + ": offers no utility " + std::string(utility_id));
+        throw bundle_error(bundle_.file().string() + words(": нет утилиты ", ": offers no utility ") +
+                           std::string(utility_id));
     ox::call<&ox::utility_impl::run>(found->utility);
     desk_.rethrow();
 }

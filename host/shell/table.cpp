@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "base/language.h"
 #include "shell/values.h"
 
 namespace oxhost::shell {
@@ -70,7 +71,9 @@ std::uint32_t table_model::row_count() {
 
 std::size_t table_model::column_of(std::string_view id) const {
     const auto found = std::ranges::find(columns_, id, &table_column::id);
-    if (found == columns_.end()) throw std::out_of_range("the table has no column " + std::string(id));
+    if (found == columns_.end())
+        throw std::out_of_range(words("в таблице нет столбца ", "the table has no column ") +
+                                std::string(id));
     return static_cast<std::size_t>(found - columns_.begin());
 }
 
