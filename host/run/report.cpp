@@ -132,17 +132,22 @@ std::string report_text(const record& told) {
     json counts = json::object();
     for (int i = 0; i <= static_cast<int>(outcome::not_attempted); ++i)
         counts[std::string(name_of(static_cast<outcome>(i)))] = count(told.results, static_cast<outcome>(i));
-    json scenes = json::array();
-    for (std::size_t i = 0; i < told.results.size(); ++i) scenes.push_back(scene_json(told, i));
-    const json report{{"project", told.wanted.project.string()},
-                      {"target", {{"given", told.goal.given}, {"proj4", told.goal.proj4}}},
-                      {"dry_run", told.wanted.dry_run},
-                      {"on_error", name_of(told.wanted.policy)},
-                      {"proj", {{"library", versions.library}, {"database", or_null(versions.database)}}},
-                      {"warnings", told.warnings},
-                      {"counts", counts},
-                      {"scenes", std::move(scenes)}};
-    return json_text(report) + '\n';
+    const json head{{"project", told.wanted.project.string()},
+                    {"target", {{"given", told.goal.given}, {"proj4", told.goal.proj4}}},
+                    {"dry_run", told.wanted.dry_run},
+                    {"on_error", name_of(told.wanted.policy)},
+                    {"proj", {{"library", versions.library}, {"database", or_null(versions.database)}}},
+                    {"warnings", told.warnings},
+                    {"counts", counts},
+                    {"scenes", json::array()}};
+    // Scene by scene: a tree of a hundred thousand of them would take many times the room of the text.
+    std::string text = json_text(head);
+    text.resize(text.rfind(']'));
+    for (std::size_t i = 0; i < told.results.size(); ++i) {
+        text += i == 0 ? "\n    " : ",\n    ";
+        for (const char c : json_text(scene_json(told, i))) text.append(1, c).append(c == '\n' ? 4 : 0, ' ');
+    }
+    return text + "\n  ]\n}\n";
 }
 
 }  // namespace oxhost::run
