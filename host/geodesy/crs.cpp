@@ -7,6 +7,7 @@
 
 #include <proj_experimental.h>
 
+#include "base/language.h"
 #include "base/memo.h"
 #include "base/numbers.h"
 
@@ -50,9 +51,15 @@ std::string definition(const proj4_text& tokens, const canonical_keys& canonical
     return text.str() + " +type=crs";
 }
 
+std::string say(std::string_view russian, std::string_view english) {
+    return std::string(in_language(russian, english));
+}
+
 std::string refusal() {
     const std::string reason = take_proj_complaint();
-    return reason.empty() ? "not a coordinate system that PROJ knows" : reason;
+    return reason.empty()
+               ? say("не система координат, известная PROJ", "not a coordinate system that PROJ knows")
+               : reason;
 }
 
 void read_axes(crs& system) {
@@ -63,7 +70,8 @@ void read_axes(crs& system) {
     system.geographic = type == PJ_TYPE_GEOGRAPHIC_2D_CRS;
     if (!system.geographic && type != PJ_TYPE_PROJECTED_CRS) {
         system.object.reset();
-        system.error = "not a map projection or a longitude/latitude system";
+        system.error = say("не картографическая проекция и не система долгот и широт",
+                           "not a map projection or a longitude/latitude system");
         return;
     }
     const pj_ptr axes(proj_crs_get_coordinate_system(proj_context(), unbound.get()));
@@ -82,11 +90,11 @@ std::shared_ptr<crs> prepare(std::string_view text) {
     system->tokens = proj4_text(text);
     const auto& tokens = system->tokens;
     if (tokens.empty()) {
-        system->error = "no projection";
+        system->error = say("нет проекции", "no projection");
         return system;
     }
     if (!tokens.has("proj") && !tokens.has("init")) {
-        system->error = "no +proj= in the text";
+        system->error = say("в тексте нет +proj=", "no +proj= in the text");
         return system;
     }
     take_proj_complaint();
@@ -96,7 +104,8 @@ std::shared_ptr<crs> prepare(std::string_view text) {
         system->error = refusal();
     } else if (!proj_is_crs(system->object.get())) {
         system->object.reset();
-        system->error = "a coordinate operation, not a coordinate system";
+        system->error = say("операция над координатами, а не система координат",
+                            "a coordinate operation, not a coordinate system");
     } else {
         read_axes(*system);
     }

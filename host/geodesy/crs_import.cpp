@@ -6,6 +6,8 @@
 #include <proj_experimental.h>
 
 #include "base/text.h"
+#include "geodesy/datum_way.h"
+#include "geodesy/mended_text.h"
 #include "geodesy/place.h"
 #include "geodesy/published_shifts.h"
 
@@ -23,18 +25,18 @@ pj_ptr horizontal(const PJ* crs_object) {
     return part;
 }
 
-/// The system whose area of use and datum decide on the shift: itself, the one it names, or its datum's.
-pj_ptr with_area(pj_ptr system) {
-    if (area_of(system.get())) return system;
-    if (pj_ptr named = recognised(system.get())) return named;
-    const pj_ptr base = geographic_base(system.get());
-    pj_ptr named_base = base ? recognised(base.get()) : nullptr;
-    return named_base ? std::move(named_base) : std::move(system);
+/// Of the datum, where no published area says where the system is used, for the surroundings of `near`.
+std::optional<towgs84> datum_shift(const PJ* system, std::optional<point> near) {
+    const bool is_local = near && !area_of(system) && !recognised(system);
+    const geographic_area area = is_local ? around(*near) : area_of_use(system);
+    const pj_ptr base = recognised_base(system);
+    const pj_ptr operation = base ? published_operation(base.get(), area) : nullptr;
+    return operation ? shift_of(operation.get()) : std::nullopt;
 }
 
 }  // namespace
 
-std::optional<std::string> proj4_of(const PJ* crs_object) {
+std::optional<std::string> proj4_of(const PJ* crs_object, std::optional<point> near) {
     const pj_ptr system = horizontal(crs_object);
     if (!system) return {};
     const char* exported = proj_as_proj_string(proj_context(), system.get(), PJ_PROJ_5, nullptr);
@@ -43,11 +45,7 @@ std::optional<std::string> proj4_of(const PJ* crs_object) {
     text.remove("type");
     const bool bound = proj_get_type(system.get()) == PJ_TYPE_BOUND_CRS;
     if (!bound && !text.has("datum") && !text.has("nadgrids")) {
-        const pj_ptr known = with_area(pj_ptr(proj_clone(proj_context(), system.get())));
-        const auto shifts = published_shifts(known.get());
-        if (const auto* shift = best_shift(shifts, area_of_use(known.get()).middle())) {
-            text.set_shift(shift->values);
-        }
+        if (const auto shift = datum_shift(system.get(), near)) text.set_shift(*shift);
     }
     const std::string result = text.str();
     if (!crs_of(result)->valid()) return {};
@@ -64,14 +62,17 @@ pj_ptr horizontal_system(const std::string& name) {
     return horizontal(system.get());
 }
 
-std::optional<std::string> import_crs(std::string_view identifier) {
+std::optional<std::string> import_crs(std::string_view identifier, std::optional<point> near) {
     const std::string name(trimmed(identifier));
     if (name.empty()) return {};
     const proj4_text tokens(name);
-    if (tokens.has("proj")) return crs_of(name)->valid() ? std::optional(name) : std::nullopt;
+    if (tokens.has("proj")) {
+        std::string text = mended(name);
+        return crs_of(text)->valid() ? std::optional(std::move(text)) : std::nullopt;
+    }
     const pj_ptr system = horizontal_system(name);
     if (!system) return {};
-    return proj4_of(system.get());
+    return proj4_of(system.get(), near);
 }
 
 std::optional<std::string> epsg_code(std::string_view proj4) {

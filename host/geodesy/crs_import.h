@@ -7,19 +7,21 @@
 #include <string>
 #include <string_view>
 
+#include "base/line.h"
 #include "geodesy/crs.h"
 
 namespace oxhost {
 
 /// "EPSG:28407", any other authority's code, a name, WKT or PROJJSON that PROJ understands, or a proj4
-/// text (which comes back trimmed). Nothing when it is unknown or no 2D map or lon/lat system.
-std::optional<std::string> import_crs(std::string_view identifier);
+/// text (which comes back mended). Nothing when it is unknown or no 2D map or lon/lat system. `near`,
+/// longitude and latitude of what lies in the system, chooses the shift of one whose area nobody published.
+std::optional<std::string> import_crs(std::string_view identifier, std::optional<point> near = {});
 
 /// The horizontal, two-dimensional part of what the identifier names; null as above, and for a proj4 text.
 pj_ptr horizontal_system(const std::string& identifier);
 
 /// The same for a CRS at hand.
-std::optional<std::string> proj4_of(const PJ* crs_object);
+std::optional<std::string> proj4_of(const PJ* crs_object, std::optional<point> near = {});
 
 /// "EPSG:n" when the database has this very system, its datum shift being one that is published for its
 /// datum; nothing otherwise.

@@ -7,17 +7,12 @@
 #include <cmath>
 #include <string>
 
-#include "geodesy/crs.h"
+#include "geodesy/crs_parts.h"
 
 namespace oxhost {
 namespace {
 
 constexpr double far_from_meridian = 6;  // degrees; no grid of a place is wider
-
-pj_ptr unbound(const PJ* system) {
-    return pj_ptr(proj_get_type(system) == PJ_TYPE_BOUND_CRS ? proj_get_source_crs(proj_context(), system)
-                                                             : proj_clone(proj_context(), system));
-}
 
 /// The EPSG system of a datum with this code.
 pj_ptr system_on_datum(const PJ* datum) {
@@ -68,8 +63,6 @@ std::optional<point> on_own_base(const PJ* system, point at) {
     return is_finite(place) ? std::optional(place) : std::nullopt;
 }
 
-geographic_area around(point place) { return {place.x - 1, place.y - 1, place.x + 1, place.y + 1}; }
-
 geographic_area around_origin(const PJ* system, const std::optional<geographic_area>& country) {
     const char* exported = proj_as_proj_string(proj_context(), system, PJ_PROJ_5, nullptr);
     const proj4_text text(exported ? exported : "");
@@ -118,6 +111,8 @@ polyline geographic_area::grid(int side) const {
                 {west + width * column / (side - 1), south + (north - south) * row / (side - 1)});
     return points;
 }
+
+geographic_area around(point place) { return {place.x - 1, place.y - 1, place.x + 1, place.y + 1}; }
 
 std::optional<geographic_area> area_of(const PJ* object) {
     geographic_area area;

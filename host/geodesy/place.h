@@ -17,6 +17,9 @@ struct geographic_area {
     polyline grid(int side) const;
 };
 
+/// A degree to each side.
+geographic_area around(point place);
+
 /// What the database says of the object; nothing without a published area.
 std::optional<geographic_area> area_of(const PJ* object);
 

@@ -6,21 +6,27 @@
 #include <optional>
 
 #include "base/files.h"
+#include "base/language.h"
 #include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
+#include "geodesy/mended_text.h"
 
 namespace oxhost {
 namespace {
 
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
+std::string say(std::string_view russian, std::string_view english) {
+    return std::string(in_language(russian, english));
+}
+
 std::string companion_of(const std::string& path) { return path + ".pj4"; }
 
 /// A file's text without byte order mark and surrounding blanks; empty when it is not text.
 std::string text_in(const std::string& path) {
     const auto content = read_file(path);
-    if (!content) throw file_error(path + ": no such file");
+    if (!content) throw file_error(path + ": " + say("нет такого файла", "no such file"));
     std::string text = *content;
     if (text.starts_with(byte_order_mark)) text.erase(0, byte_order_mark.size());
     const auto is_binary = [](unsigned char c) {
@@ -33,10 +39,6 @@ std::string text_in(const std::string& path) {
 bool is_proj4(std::string_view text) {
     const proj4_text tokens(text);
     return tokens.has("proj") || tokens.has("init");
-}
-
-std::string first_line(const std::string& text) {
-    return std::string(trimmed(std::string_view(text).substr(0, text.find_first_of("\r\n"))));
 }
 
 /// The proj4 text of WKT in any of its dialects.
@@ -57,7 +59,9 @@ std::string esri_wkt(const PJ* system) {
 /// datum by that name.
 std::string esri_text(const std::string& path, std::string_view proj4) {
     const auto system = crs_of(proj4);
-    if (!system->valid()) throw file_error(path + ": no projection to write: " + system->error);
+    if (!system->valid())
+        throw file_error(path + ": " + say("нет проекции для записи", "no projection to write") + " (" +
+                         system->error + ')');
     std::string wkt;
     if (const auto code = epsg_code(proj4)) {
         const pj_ptr known(proj_create(proj_context(), code->c_str()));
@@ -70,13 +74,15 @@ std::string esri_text(const std::string& path, std::string_view proj4) {
         wkt = esri_wkt(plain.get());
     }
     const std::string reason = take_proj_complaint();
-    if (wkt.empty()) throw file_error(path + ": the projection has no ESRI form: " + reason);
+    if (wkt.empty())
+        throw file_error(path + ": " + say("у проекции нет записи ESRI", "the projection has no ESRI form") +
+                         " (" + reason + ')');
     return wkt;
 }
 
 std::optional<std::string> pj4_text(const std::string& path) {
-    const std::string line = first_line(text_in(path));
-    return is_proj4(line) ? std::optional(line) : std::nullopt;
+    const std::string text = joined_lines(text_in(path));
+    return is_proj4(text) ? std::optional(mended(text)) : std::nullopt;
 }
 
 /// The text in the companion, if that belongs to a `.prj` of this content.
@@ -93,11 +99,13 @@ std::optional<std::string> companion_text(const std::string& path, const std::st
 std::optional<std::string> prj_text(const std::string& path) {
     const std::string content = text_in(path);
     if (auto kept = companion_text(path, content)) return kept;
-    return is_proj4(content) ? import_crs(first_line(content)) : from_wkt(content);
+    return is_proj4(content) ? import_crs(joined_lines(content)) : from_wkt(content);
 }
 
 std::string required(const std::string& path, std::optional<std::string> text) {
-    if (!text) throw file_error(path + ": holds no projection that PROJ knows");
+    if (!text)
+        throw file_error(path + ": " +
+                         say("нет проекции, известной PROJ", "holds no projection that PROJ knows"));
     return *std::move(text);
 }
 

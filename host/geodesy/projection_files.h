@@ -1,7 +1,7 @@
 #pragma once
 /// Files that hold one projection. Paths are UTF-8.
 ///
-/// `.pj4`: one line of UTF-8, the proj4 text.
+/// `.pj4`: UTF-8, the proj4 text, in one line or several; "#" begins a comment.
 /// `.prj`: ESRI's WKT, which has no place for `towgs84`. A text with one, or any whose WKT alone would
 /// not give back the same coordinate system, is also kept in a file beside it, `NAME.prj.pj4`. That
 /// companion counts only as long as the `.prj` is the one it was written with, so a `.prj` that other

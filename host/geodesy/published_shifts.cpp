@@ -1,34 +1,24 @@
 #include "geodesy/published_shifts.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <set>
+#include <utility>
 
 #include "base/memo.h"
 #include "base/numbers.h"
+#include "geodesy/datum_way.h"
+#include "geodesy/place.h"
+
 namespace oxhost {
 namespace {
 
-PJ* wgs84() {
-    static const pj_ptr object(proj_create(proj_context(), "EPSG:4326"));
-    return object.get();
-}
-
-/// The number that a composed text of a plug-in gives back: twelve significant digits. No publication has
-/// more; PROJ's conversion of units leaves 0.7899999999999999.
-double as_written(double value) {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.begin(), digits.end(), value, std::chars_format::general, 12).ptr;
-    std::from_chars(digits.begin(), end, value);
-    return value;
-}
-
 std::optional<published_shift> read_shift(const PJ* operation) {
+    auto values = shift_of(operation);
+    if (!values) return {};
     published_shift shift{};
-    shift.values.resize(7);
-    if (!proj_coordoperation_get_towgs84_values(proj_context(), operation, shift.values.data(), 7, 0))
-        return {};
-    for (double& value : shift.values) value = as_written(value);
+    shift.values = *std::move(values);
     const char* authority = proj_get_id_auth_name(operation, 0);
     const char* code = proj_get_id_code(operation, 0);
     if (!authority || !code) return {};  // put together by PROJ, published by nobody
@@ -36,9 +26,42 @@ std::optional<published_shift> read_shift(const PJ* operation) {
     shift.name = proj_get_name(operation);
     const double accuracy = proj_coordoperation_get_accuracy(proj_context(), operation);
     if (accuracy >= 0) shift.accuracy = accuracy;
-    proj_get_area_of_use(proj_context(), operation, &shift.west, &shift.south, &shift.east, &shift.north,
-                         nullptr);
+    if (const auto area = area_of(operation)) {
+        shift.west = area->west, shift.south = area->south;
+        shift.east = area->east, shift.north = area->north;
+    }
     return shift;
+}
+
+std::set<std::string> transformation_codes(bool withdrawn_too) {
+    std::set<std::string> codes;
+    const auto list =
+        proj_get_codes_from_database(proj_context(), "EPSG", PJ_TYPE_TRANSFORMATION, withdrawn_too);
+    for (auto code = list; code && *code; ++code) codes.insert(*code);
+    proj_string_list_destroy(list);
+    return codes;
+}
+
+bool same_shape(const ellipsoid& a, const ellipsoid& b) {
+    return std::abs(a.a - b.a) < 1e-3 && std::abs(a.rf - b.rf) < 1e-6;
+}
+
+/// Those to WGS 84 that EPSG has withdrawn, which PROJ keeps but offers for no system.
+void add_withdrawn(const ellipsoid& shape, std::vector<published_shift>& shifts) {
+    const auto valid = transformation_codes(false);
+    for (const std::string& code : transformation_codes(true)) {
+        if (valid.contains(code)) continue;
+        const pj_ptr operation(proj_create_from_database(proj_context(), "EPSG", code.c_str(),
+                                                         PJ_CATEGORY_COORDINATE_OPERATION, 0, nullptr));
+        const pj_ptr source(operation ? proj_get_source_crs(proj_context(), operation.get()) : nullptr);
+        const pj_ptr target(operation ? proj_get_target_crs(proj_context(), operation.get()) : nullptr);
+        if (!source || !target || std::string_view(proj_get_name(target.get())) != "WGS 84") continue;
+        if (!same_shape(ellipsoid_of(source.get()), shape)) continue;
+        if (auto shift = read_shift(operation.get())) {
+            shift->current = false;
+            shifts.push_back(*std::move(shift));
+        }
+    }
 }
 
 /// Those of every geographic system of the EPSG data set that stands on this ellipsoid.
@@ -56,45 +79,50 @@ std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
         const pj_ptr system(
             proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
         if (!system) continue;
-        const ellipsoid own = ellipsoid_of(system.get());
-        if (std::abs(own.a - shape.a) > 1e-3 || std::abs(own.rf - shape.rf) > 1e-6) continue;
+        if (!same_shape(ellipsoid_of(system.get()), shape)) continue;
         for (auto& shift : published_shifts(system.get())) shifts.push_back(std::move(shift));
     }
     proj_crs_info_list_destroy(list);
+    add_withdrawn(shape, shifts);
     return shifts;
 }
 
 }  // namespace
 
 bool published_shift::covers(point place) const {
-    if (!(place.y >= south && place.y <= north)) return false;
-    const double longitude = std::remainder(place.x, 360);
-    return west <= east ? longitude >= west && longitude <= east : longitude >= west || longitude <= east;
+    return geographic_area{west, south, east, north}.covers(place);
 }
 
 std::vector<published_shift> published_shifts(const PJ* crs_object) {
     std::vector<published_shift> shifts;
     PJ_CONTEXT* const context = proj_context();
     const pj_ptr base = geographic_base(crs_object);
-    if (!base || !wgs84()) return shifts;
+    if (!base || !wgs84_system()) return shifts;
     const pj_factory_ptr factory(proj_create_operation_factory_context(context, nullptr));
-    double west = 0, south = 0, east = 0, north = 0;
-    if (proj_get_area_of_use(context, crs_object, &west, &south, &east, &north, nullptr) && west > -1000) {
-        proj_operation_factory_context_set_area_of_interest(context, factory.get(), west, south, east, north);
+    if (const auto area = area_of(crs_object)) {
+        proj_operation_factory_context_set_area_of_interest(context, factory.get(), area->west, area->south,
+                                                            area->east, area->north);
     }
     proj_operation_factory_context_set_spatial_criterion(context, factory.get(),
                                                          PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
     proj_operation_factory_context_set_grid_availability_use(context, factory.get(),
                                                              PROJ_GRID_AVAILABILITY_IGNORED);
-    // a shift by way of a third system is nobody's publication, and looking for one takes seconds
+    // a shift by way of a third system is nobody's publication
     proj_operation_factory_context_set_allow_use_intermediate_crs(context, factory.get(),
                                                                   PROJ_INTERMEDIATE_CRS_USE_NEVER);
     proj_operation_factory_context_set_allow_ballpark_transformations(context, factory.get(), 0);
-    const pj_list_ptr operations(proj_create_operations(context, base.get(), wgs84(), factory.get()));
-    const int count = operations ? proj_list_get_count(operations.get()) : 0;
-    for (int i = 0; i < count; ++i) {
-        const pj_ptr operation(proj_list_get(context, operations.get(), i));
-        if (auto shift = read_shift(operation.get())) shifts.push_back(*std::move(shift));
+    for (const bool current : {true, false}) {
+        proj_operation_factory_context_set_discard_superseded(context, factory.get(), current);
+        const pj_list_ptr found(proj_create_operations(context, base.get(), wgs84_system(), factory.get()));
+        const int count = found ? proj_list_get_count(found.get()) : 0;
+        for (int i = 0; i < count; ++i) {
+            const pj_ptr operation(proj_list_get(context, found.get(), i));
+            auto shift = read_shift(operation.get());
+            if (!shift || std::ranges::find(shifts, shift->code, &published_shift::code) != shifts.end())
+                continue;
+            shift->current = current;
+            shifts.push_back(*std::move(shift));
+        }
     }
     take_proj_complaint();
     return shifts;
@@ -107,11 +135,20 @@ const std::vector<published_shift>& published_shifts(const ellipsoid& shape) {
 
 const published_shift* best_shift(const std::vector<published_shift>& shifts, point place) {
     const published_shift* best = nullptr;
-    const auto error = [](const published_shift& shift) { return shift.accuracy.value_or(HUGE_VAL); };
+    const auto rank = [](const published_shift& shift) {
+        return std::pair(!shift.current, shift.accuracy.value_or(HUGE_VAL));
+    };
     for (const auto& shift : shifts) {
-        if (shift.covers(place) && (!best || error(shift) < error(*best))) best = &shift;
+        if (shift.covers(place) && (!best || rank(shift) < rank(*best))) best = &shift;
     }
     return best || shifts.empty() ? best : &shifts.front();
+}
+
+std::vector<published_shift> publications_of(const towgs84& values, const ellipsoid& shape) {
+    std::vector<published_shift> current, former;
+    for (const auto& each : published_shifts(shape))
+        if (same_shift(values, each.values)) (each.current ? current : former).push_back(each);
+    return current.empty() ? former : current;
 }
 
 namespace {

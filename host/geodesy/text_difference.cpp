@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
+#include "geodesy/crs_parts.h"
 #include "geodesy/datum_way.h"
 #include "geodesy/measure.h"
 #include "geodesy/place.h"
@@ -20,11 +21,6 @@ namespace {
 /// Keys that say something which positions in the area of use or PROJ's objects do not show.
 constexpr std::array<std::string_view, 10> told_apart{
     "axis", "over", "geoc", "nadgrids", "approx", "algo", "vunits", "geoidgrids", "geoid_crs", "vto_meter"};
-
-struct unit {
-    std::string name;
-    double factor = 1;  ///< metres, or radians
-};
 
 /// What a definition says, taken apart, and where it puts its coordinates.
 struct meaning {
@@ -41,7 +37,7 @@ meaning meaning_of_text(const std::string& text) {
     read.system.reset(proj_clone(proj_context(), known->object.get()));
     read.text = known->tokens;
     read.shifted = has_datum(*known);
-    read.to_wgs84 = bound_way_to_wgs84(read.system.get());
+    read.to_wgs84 = easting_first_way(read.system.get(), wgs84_system());
     return read;
 }
 
@@ -53,49 +49,20 @@ meaning meaning_of(std::string_view definition) {
     if (!read.system) return read;
     const char* exported = proj_as_proj_string(proj_context(), read.system.get(), PJ_PROJ_5, nullptr);
     read.text = proj4_text(exported ? exported : "");
-    if (read.text.has("datum") || proj_get_type(read.system.get()) == PJ_TYPE_BOUND_CRS) {
-        read.shifted = true;
-        read.to_wgs84 = bound_way_to_wgs84(read.system.get());
+    const bool named = read.text.has("datum") || proj_get_type(read.system.get()) == PJ_TYPE_BOUND_CRS;
+    const pj_ptr published =
+        named ? nullptr : published_operation(read.system.get(), area_of_use(read.system.get()));
+    if (published) {
+        read.to_wgs84.reset(proj_normalize_for_visualization(proj_context(), published.get()));
     } else {
-        read.to_wgs84 = published_way_to_wgs84(read.system.get());
-        read.shifted = read.to_wgs84 != nullptr;
-        if (!read.to_wgs84) read.to_wgs84 = bound_way_to_wgs84(read.system.get());
+        read.to_wgs84 = easting_first_way(read.system.get(), wgs84_system());
     }
+    read.shifted = named || published;
     take_proj_complaint();
     return read;
 }
 
-pj_ptr unbound(const PJ* system) {
-    return pj_ptr(proj_get_type(system) == PJ_TYPE_BOUND_CRS ? proj_get_source_crs(proj_context(), system)
-                                                             : proj_clone(proj_context(), system));
-}
-
-unit unit_of(const PJ* system) {
-    unit found;
-    const pj_ptr axes(proj_crs_get_coordinate_system(proj_context(), unbound(system).get()));
-    const char* name = nullptr;
-    if (axes && proj_cs_get_axis_info(proj_context(), axes.get(), 0, nullptr, nullptr, nullptr, &found.factor,
-                                      &name, nullptr, nullptr))
-        found.name = name ? name : "";
-    return found;
-}
-
-/// Its name, and degrees east of Greenwich.
-std::pair<std::string, double> meridian_of(const PJ* system) {
-    const pj_ptr meridian(proj_get_prime_meridian(proj_context(), unbound(system).get()));
-    double longitude = 0, radians = 0;
-    if (!meridian ||
-        !proj_prime_meridian_get_parameters(proj_context(), meridian.get(), &longitude, &radians, nullptr))
-        return {};
-    return {proj_get_name(meridian.get()), longitude * radians * 180 / M_PI};
-}
-
 bool close(double a, double b, double relative) { return std::abs(a - b) <= relative * std::abs(b); }
-
-bool is_geographic(const PJ* system) {
-    const PJ_TYPE type = proj_get_type(unbound(system).get());
-    return type == PJ_TYPE_GEOGRAPHIC_2D_CRS || type == PJ_TYPE_GEOGRAPHIC_3D_CRS;
-}
 
 std::string lost_keys(const proj4_text& before, const proj4_text& after) {
     std::string keys;
@@ -123,11 +90,11 @@ std::vector<std::string> losses(const meaning& before, const meaning& after, lan
     const PJ* const a = before.system.get();
     const PJ* const b = after.system.get();
     if (is_geographic(a) != is_geographic(b)) say("вид системы координат", "kind of coordinate system");
-    const unit own = unit_of(a);
+    const axis_unit own = unit_of(a);
     if (is_geographic(a) == is_geographic(b) && !close(unit_of(b).factor, own.factor, 1e-10))
         say("единица измерения", "unit", own.name);
     const auto [name, longitude] = meridian_of(a);
-    if (std::abs(longitude - meridian_of(b).second) > 1e-8)
+    if (std::abs(longitude - meridian_of(b).longitude) > 1e-8)
         say("начальный меридиан", "prime meridian",
             name.empty() || name == "unknown" ? number_text(longitude) + "°" : name);
     const ellipsoid shape = ellipsoid_of(a);

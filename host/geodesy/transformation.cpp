@@ -47,8 +47,7 @@ publication publication_of(const crs& system) {
         return found;
     }
     bool several = false;
-    for (const auto& published : published_shifts(ellipsoid_of(system.object.get()))) {
-        if (!same_shift(shift, published.values)) continue;
+    for (const auto& published : publications_of(shift, ellipsoid_of(system.object.get()))) {
         const std::string label = published.name + " (" + published.code + ')';
         several = several || (!found.label.empty() && found.label != label);
         found.label = label;

@@ -104,7 +104,7 @@ private:
     static std::optional<double> missing_shift(const crs& system, const ellipsoid& shape, point place) {
         std::vector<double> distances;
         for (const auto& shift : published_shifts(shape)) {
-            if (!shift.covers(place)) continue;
+            if (!shift.current || !shift.covers(place)) continue;
             proj4_text text("+proj=longlat +no_defs");
             const std::string ellps = system.tokens.value("ellps").value_or("");
             if (ellps.empty()) {

@@ -76,7 +76,9 @@ TEST_F(ProjectionFiles, OtherContentIsNoProjection) {
     }
     EXPECT_EQ(refusal([&] { load_pj4(folder_ / "missing.pj4"); }), folder_ / "missing.pj4: no such file");
     EXPECT_THROW(load_prj(folder_.path()), file_error);
-    write_bytes(pj4_, "\xEF\xBB\xBF  " + texts::utm37 + " \r\nsecond line\r\n");
+    write_bytes(
+        pj4_,
+        "\xEF\xBB\xBF  # a comment\r\n+proj=utm +zone=37 # another\r\n+datum=WGS84\n\n+units=m +no_defs\r\n");
     EXPECT_EQ(load_pj4(pj4_), texts::utm37);
 }
 
