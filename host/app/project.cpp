@@ -9,6 +9,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "geodesy/favourites.h"
+#include "geodesy/mended_text.h"
 #include "geodesy/projection_files.h"
 #include "geodesy/text_difference.h"
 #include "run/plug_in.h"
@@ -124,7 +125,7 @@ exit_code edit(const project_options& options) try {
         editing edited{dialog, hands, taken};
         for (const dialog_act& act : options.acts) act(edited);
         if (shown) std::cerr << headless::dialog_text(hands.dialog()) << '\n';
-        composed = dialog.text(hands);
+        composed = mended(dialog.text(hands));
         taken = edited.taken;
     });
     std::cout << composed << std::endl;
