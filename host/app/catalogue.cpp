@@ -33,7 +33,8 @@ std::wstring folded(const std::string& text) {
 /// The first drop-down list of a group.
 node& list_of(dialog_hands& hands, std::string_view group) {
     const auto found = hands.all_in_group(node_kind::dropdown, group);
-    if (found.empty()) throw failure(exit_code::internal, "no list of " + std::string(group));
+    if (found.empty())
+        throw failure(exit_code::internal, words("нет списка ", "no list of ") + std::string(group));
     return *found.front();
 }
 
@@ -139,7 +140,9 @@ exit_code list_catalogue(const catalogue_options& options) {
                   [&] { return hands.control(text::zone()).state().items; });
     });
     if (list.count() == 0 && !options.find.empty())
-        throw failure(exit_code::nothing_done, "nothing in the catalogue is called \"" + options.find + '"');
+        throw failure(exit_code::nothing_done,
+                      words("в каталоге нет ничего с названием ", "nothing in the catalogue is called ") +
+                          '"' + options.find + '"');
     return exit_code::done;
 }
 
@@ -148,16 +151,23 @@ exit_code list_catalogue(const catalogue_options& options) {
 void add_catalogue(CLI::App& app, action& chosen) {
     auto options = std::make_shared<catalogue_options>();
     CLI::App* command = app.add_subcommand(
-        "catalogue",
-        "List what the projection dialog offers: ellipsoids (axis, inverse flattening), datums (ellipsoid, "
-        "seven parameters), projections (what they ask for), zones");
-    command->add_option("part", options->part, "ellipsoids, datums, projections or zones (default: all)")
-        ->check(CLI::IsMember({"ellipsoids", "datums", "projections", "zones"}));
+        "catalogue", words("Показать, что предлагает диалог проекции: эллипсоиды (полуось, обратное сжатие), "
+                           "датумы (эллипсоид, семь параметров), проекции (их параметры), зоны",
+                           "List what the projection dialog offers: ellipsoids (axis, inverse flattening), "
+                           "datums (ellipsoid, seven parameters), projections (what they ask for), zones"));
+    command
+        ->add_option(
+            "part", options->part,
+            words("Только эллипсоиды, датумы, проекции или зоны", "Only one of these (default: all)"))
+        ->type_name("ellipsoids|datums|projections|zones")
+        ->check(CLI::IsMember({"ellipsoids", "datums", "projections", "zones"}).description(""));
     command
         ->add_option("--find", options->find,
-                     "Only entries with this in their line or in a further name (\"SK-42\"), in either case, "
-                     "or of this EPSG code")
-        ->type_name("TEXT");
+                     words("Только строки, в которых, как и в других названиях («SK-42»), есть этот текст, "
+                           "независимо от регистра, или с этим кодом EPSG",
+                           "Only entries with this in their line or in a further name (\"SK-42\"), in either "
+                           "case, or of this EPSG code"))
+        ->type_name("TEXT|CODE");
     add_language(*command);
     add_bundle(*command, options->bundle);
     command->callback([options, &chosen] { chosen = [options] { return list_catalogue(*options); }; });

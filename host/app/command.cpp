@@ -21,8 +21,9 @@ namespace fs = std::filesystem;
 constexpr std::string_view default_bundle = run::plug_in_text::bundle_file;
 
 void print_fault(const ox::border_fault& fault) {
-    std::string line = std::string("oxhost: an exception ended at ") + fault.place;
-    if (fault.slot) line += ", slot " + std::to_string(fault.slot);
+    std::string line =
+        words("oxhost: исключение перехвачено в ", "oxhost: an exception ended at ") + fault.place;
+    if (fault.slot) line += words(", операция ", ", slot ") + std::to_string(fault.slot);
     line.append(": ").append(fault.what);
     std::ranges::replace(line, '\n', ' ');
     std::cerr << line << std::endl;
@@ -47,7 +48,8 @@ exit_code code_of_current_exception() try { throw; } catch (const failure& error
 void add_verbose(CLI::App& app) {
     app.add_flag_callback(
         "--verbose", [] { listen_to_faults(print_fault); },
-        "Tell of exceptions that end at the border of plug-in and host");
+        words("Сообщать об исключениях, перехваченных на границе модуля и программы",
+              "Tell of exceptions that end at the border of plug-in and host"));
 }
 
 void add_language(CLI::App& subcommand) {
@@ -55,16 +57,20 @@ void add_language(CLI::App& subcommand) {
     subcommand
         .add_option_function<std::string>(
             "--lang", [](const std::string& code) { choose_language(parse_language(code)); },
-            "Language of texts and messages: ru or en (default: the locale's)")
-        ->check(CLI::IsMember({"ru", "en"}));
+            words("Язык текстов и сообщений (по умолчанию язык системы)",
+                  "Language of texts and messages (default: the locale's)"))
+        ->type_name("ru|en")
+        ->check(CLI::IsMember({"ru", "en"}).description(""));
 }
 
 void add_answers(CLI::App& subcommand, console_options& result) {
     auto* yes = subcommand.add_flag_callback(
-        "--yes", [&result] { result.questions = answering::yes; }, "Answer questions with yes");
+        "--yes", [&result] { result.questions = answering::yes; },
+        words("На вопросы отвечать «да»", "Answer questions with yes"));
     subcommand
         .add_flag_callback(
-            "--no", [&result] { result.questions = answering::no; }, "Answer questions with no")
+            "--no", [&result] { result.questions = answering::no; },
+            words("На вопросы отвечать «нет»", "Answer questions with no"))
         ->excludes(yes);
 }
 
@@ -72,7 +78,8 @@ void add_bundle(CLI::App& subcommand, fs::path& result) {
     result = fs::read_symlink("/proc/self/exe").parent_path() / default_bundle;
     subcommand
         .add_option("--bundle", result,
-                    "The plug-in (default: " + std::string(default_bundle) + " beside this program)")
+                    words("Модуль (по умолчанию ", "The plug-in (default: ") + std::string(default_bundle) +
+                        words(" рядом с программой)", " beside this program)"))
         ->type_name("FILE");
 }
 

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "base/language.h"
 #include "session/console_messages.h"
 
 namespace CLI {
@@ -47,12 +48,19 @@ void add_catalogue(CLI::App& app, action& chosen);
 void add_utilities(CLI::App& app, action& chosen);
 
 /// What every TARGET option says in the help.
-inline constexpr auto target_help = "EPSG:n, a proj4 text, a .pj4 or .prj file, or none";
+inline constexpr bilingual target_help{
+    "EPSG:n или просто n, текст proj4, файл .pj4 или .prj либо none (без проекции)",
+    "EPSG:n or n alone, a proj4 text, a .pj4 or .prj file, or none"};
+
+/// What CLI11 takes for a text is a string.
+inline std::string words(std::string_view russian, std::string_view english) {
+    return std::string(in_language(russian, english));
+}
 
 // Options of several commands. `result` outlives the parsing.
 /// `--verbose`, of the program and of each subcommand: exceptions that end at a border are told.
 void add_verbose(CLI::App& app);
-/// `--lang ru|en`; takes effect while the command line is read, as `--verbose` does, which comes along.
+/// `--lang ru|en`, of the program and of each subcommand, `--verbose` along with it.
 void add_language(CLI::App& subcommand);
 /// `--yes` and `--no`, of which one may be given.
 void add_answers(CLI::App& subcommand, console_options& result);

@@ -26,10 +26,6 @@ struct export_options {
     bool quiet = false;
 };
 
-std::string words(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
-
 /// Brings a scene into the target, or ends the command with the scene's name.
 void transform(new_scene& copy, const scene& original, const std::string& target) {
     const auto fail = [&](const std::string& reason) {

@@ -63,9 +63,14 @@ exit_code list(const list_options& options) {
 
 void add_list(CLI::App& app, action& chosen) {
     auto options = std::make_shared<list_options>();
-    CLI::App* command = app.add_subcommand("list", "List the scenes of a project");
-    command->add_option("project", options->project, "The project")->type_name("PROJECT.gpkg")->required();
-    command->add_flag("--json", options->json, "As JSON: index, caption, profile, proj4, vertices");
+    CLI::App* command =
+        app.add_subcommand("list", words("Показать сцены проекта", "List the scenes of a project"));
+    command->add_option("project", options->project, words("Проект", "The project"))
+        ->type_name("PROJECT.gpkg")
+        ->required();
+    command->add_flag("--json", options->json,
+                      words("В виде JSON: index, caption, profile, proj4, vertices, epsg",
+                            "As JSON: index, caption, profile, proj4, vertices, epsg"));
     add_language(*command);
     command->callback([options, &chosen] { chosen = [options] { return list(*options); }; });
 }

@@ -3,19 +3,39 @@
 #include <iostream>
 
 #include "app/command.h"
+#include "app/help.h"
 #include "session/border.h"
 
 namespace {
 
+using namespace oxhost;
 using namespace oxhost::app;
+
+constexpr bilingual closing_words{
+    "Справка по команде: oxhost КОМАНДА --help. Код завершения: 0 выполнено, 1 ошибка в сцене, 2 нечего "
+    "делать или "
+    "неверные настройки, 3 ответ «нет», 64 неверная команда, 66 файл не читается, 70 внутренняя ошибка, 130 "
+    "и 143 "
+    "прервано сигналом.",
+    "Help on a command: oxhost COMMAND --help. Exit code: 0 done, 1 a scene failed, 2 nothing to do or bad "
+    "settings, "
+    "3 answered no, 64 usage, 66 input unreadable, 70 internal error, 130 and 143 ended by a signal."};
 
 int answer(exit_code code) { return static_cast<int>(code); }
 
 int run(int argc, char** argv) {
-    CLI::App app{"Reprojects the section lines of 2D profile scenes", "oxhost"};
-    app.set_version_flag("--version", "oxhost " OXHOST_VERSION);
+    settle_language(argc, argv);
+    CLI::App app{words("Перепроецирование линий разрезов сцен профилей",
+                       "Reprojects the section lines of 2D profile scenes"),
+                 "oxhost"};
+    app.formatter(help_formatter());
+    app.set_help_flag("-h,--help", words("Эта справка", "This help"));
+    app.set_version_flag(
+        "--version", "oxhost " OXHOST_VERSION,
+        words("Версии программы и её библиотек", "Versions of the program and its libraries"));
+    app.footer(std::string(closing_words));
     app.require_subcommand(0, 1);
-    add_verbose(app);
+    add_language(app);
     action chosen;
     for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
                            add_catalogue, add_utilities})
@@ -24,11 +44,14 @@ int run(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
         if (e.get_exit_code() == answer(exit_code::done)) return app.exit(e);  // --help, --version
-        std::cerr << "oxhost: " << e.what() << '\n';
+        std::cerr << "oxhost: " << usage_line(app, e) << '\n';
         return answer(exit_code::usage);
     }
     if (chosen) return answer(chosen());
-    std::cerr << "oxhost: a command is needed; --help lists them\n";
+    std::cerr << "oxhost: "
+              << in_language("нужна команда; список команд: oxhost --help",
+                             "a command is needed; --help lists them")
+              << '\n';
     return answer(exit_code::usage);
 }
 

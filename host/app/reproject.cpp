@@ -54,6 +54,9 @@ void tell(const reproject_options& options, const std::vector<run::scene_result>
 }
 
 exit_code reproject(const reproject_options& options) {
+    if (!options.all && options.scenes.empty() && options.wanted.sources.empty())
+        throw failure(exit_code::usage, words("нужен один из параметров --all, --scene, --source",
+                                              "one of the options --all, --scene, --source is needed"));
     check_outputs(options);
     run::reprojection work(options.wanted);
     if (!options.console.quiet)
@@ -88,10 +91,18 @@ void add_reproject(CLI::App& app, action& chosen) {
     command->add_option("project", wanted.project, "The project")->type_name("PROJECT.gpkg")->required();
     command->add_option("--to", wanted.target, target_help)->type_name("TARGET")->required();
 
-    auto* which = command->add_option_group("scenes", "Which scenes");
-    which->add_flag("--all", options->all, "Every profile scene");
-    which->add_option("--scene", options->scenes, "Scenes by number or caption")->type_name("INDEX|CAPTION");
-    which->require_option(1);
+    auto* all = command->add_flag("--all", options->all, words("Все сцены профилей", "Every profile scene"));
+    command
+        ->add_option("--scene", options->scenes,
+                     words("Сцены по номеру, диапазону номеров, названию или образцу названий",
+                           "Scenes by number, range of numbers, caption or pattern of captions"))
+        ->type_name("INDEX|FIRST-LAST|CAPTION|PATTERN")
+        ->excludes(all);
+    command
+        ->add_option("--source", wanted.sources,
+                     words("Только сцены в этой проекции; вместо --all или вместе с --scene",
+                           "Only scenes in this projection; in place of --all, or narrowing --scene"))
+        ->type_name("TARGET");
 
     add_answers(*command, options->console);
     command->add_flag("--dry-run", wanted.dry_run, "Do all of it, but leave the project as it is");
@@ -112,7 +123,7 @@ void add_reproject(CLI::App& app, action& chosen) {
     add_language(*command);
     add_bundle(*command, wanted.bundle);
     command->callback([options, &chosen] {
-        if (!options->all) options->wanted.scenes = options->scenes;
+        if (!options->scenes.empty()) options->wanted.scenes = options->scenes;
         options->wanted.keep_lines = !options->report.empty() || !options->map.empty();
         chosen = [options] { return reproject(*options); };
     });

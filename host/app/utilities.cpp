@@ -65,8 +65,9 @@ exit_code utilities(const utilities_options& options) {
     }
     if (std::ranges::find(host.utilities(), options.run, &shell::offered_utility::id) ==
         host.utilities().end())
-        throw failure(exit_code::nothing_done,
-                      options.bundle.string() + ": offers no utility " + options.run);
+        throw failure(
+            exit_code::nothing_done,
+            options.bundle.string() + words(": нет утилиты ", ": offers no utility ") + options.run);
     return run_on(opened.get(), host, options);
 }
 
@@ -74,10 +75,18 @@ exit_code utilities(const utilities_options& options) {
 
 void add_utilities(CLI::App& app, action& chosen) {
     auto options = std::make_shared<utilities_options>();
-    CLI::App* command =
-        app.add_subcommand("utilities", "List the utilities that a plug-in offers, or run one as it stands");
-    command->add_option("project", options->project, "The project to run it on")->type_name("PROJECT.gpkg");
-    command->add_option("--run", options->run, "Print this utility's dialog and accept it")->type_name("ID");
+    CLI::App* command = app.add_subcommand(
+        "utilities", words("Показать утилиты модуля или выполнить одну из них как есть",
+                           "List the utilities that a plug-in offers, or run one as it stands"));
+    command
+        ->add_option("project", options->project,
+                     words("Проект, с которым она работает", "The project to run it on"))
+        ->type_name("PROJECT.gpkg");
+    command
+        ->add_option("--run", options->run,
+                     words("Напечатать диалог этой утилиты и подтвердить его",
+                           "Print this utility's dialog and accept it"))
+        ->type_name("ID");
     add_answers(*command, options->console);
     add_language(*command);
     add_bundle(*command, options->bundle);

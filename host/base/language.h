@@ -2,6 +2,7 @@
 /// The language in which the host and its modules speak to the user; one per process.
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace oxhost {
@@ -29,5 +30,19 @@ void choose_language(std::optional<language> chosen);
 inline std::string_view in_language(std::string_view russian, std::string_view english) {
     return text_in(current_language(), russian, english);
 }
+
+/// A text for the user that is in the language of the moment when it is taken as one.
+struct bilingual {
+    std::string_view russian;
+    std::string_view english;
+
+    operator std::string() const { return std::string(in_language(russian, english)); }
+    friend std::string operator+(std::string left, const bilingual& right) {
+        return left += in_language(right.russian, right.english);
+    }
+    friend std::string operator+(const bilingual& left, std::string_view right) {
+        return std::string(left).append(right);
+    }
+};
 
 }  // namespace oxhost

@@ -2,9 +2,9 @@
 #include <ogrsf_frmts.h>
 
 #include "base/language.h"
-#include "exchange/layer_attributes.h"
 #include "exchange/gdal.h"
 #include "exchange/writers.h"
+#include "exchange/written_attributes.h"
 
 namespace oxhost {
 
@@ -58,7 +58,7 @@ private:
     struct open_layer {
         const export_layer* as;
         OGRLayer* layer;
-        layer_attributes attributes;
+        written_attributes attributes;
         bool flat_lines = false;  ///< some lines lack heights or measures that others have
     };
 

@@ -8,6 +8,7 @@ namespace {
 
 std::vector<scene*> scenes_of(const order& wanted, project& opened) {
     auto scenes = wanted.scenes ? select_scenes(opened, *wanted.scenes) : listed_scenes(opened);
+    if (!wanted.sources.empty()) scenes = scenes_in(scenes, wanted.sources);
     if (scenes.empty())
         throw failure(trouble::refused, wanted.project.string() + ": no profile scenes to reproject");
     return scenes;

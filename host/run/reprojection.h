@@ -26,7 +26,8 @@ enum class on_error { stop, skip, rollback };
 struct order {
     std::filesystem::path project;
     std::string target;                              ///< as read_target takes it
-    std::optional<std::vector<std::string>> scenes;  ///< by index or caption; nothing for all that are listed
+    std::optional<std::vector<std::string>> scenes;  ///< as select_scenes takes them; nothing for all listed
+    std::vector<std::string> sources;                ///< only these projections; empty for any
     bool dry_run = false;                            ///< do it all, but leave the project as it is
     on_error policy = on_error::stop;
     bool keep_lines = false;  ///< the record is to have the lines before and after

@@ -3,9 +3,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <set>
 
-#include "base/numbers.h"
+#include "base/language.h"
 #include "base/text.h"
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
@@ -19,9 +18,12 @@ namespace fs = std::filesystem;
 
 target from_file(const std::string& given, const std::string& extension) {
     std::error_code ignored;
-    if (!fs::exists(given, ignored)) throw failure(trouble::unreadable, given + ": no such file");
+    if (!fs::exists(given, ignored))
+        throw failure(trouble::unreadable,
+                      given + std::string(in_language(": нет такого файла", ": no such file")));
     if (!fs::is_regular_file(given, ignored) || access(given.c_str(), R_OK) != 0)
-        throw failure(trouble::unreadable, given + ": cannot be read");
+        throw failure(trouble::unreadable,
+                      given + std::string(in_language(": не читается", ": cannot be read")));
     return {given, extension == ".pj4" ? load_pj4(given) : load_prj(given), fs::path(given)};
 }
 
@@ -29,12 +31,18 @@ target from_text(const std::string& given) {
     std::string text = given;
     std::ranges::replace_if(
         text, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
-    if (trimmed(text).empty())
-        throw failure(trouble::refused, "the target is empty; \"none\" resets a projection");
+    text = trimmed(text);
+    if (text.empty())
+        throw failure(trouble::refused,
+                      std::string(in_language("целевая проекция пуста; сбросить проекцию: \"none\"",
+                                              "the target is empty; \"none\" resets a projection")));
+    if (text.find_first_not_of("0123456789") == text.npos) text.insert(0, "EPSG:");
     if (auto known = import_crs(text)) return {given, std::move(*known), {}};
     const std::string reason = text.find("proj=") != text.npos ? crs_of(text)->error : "";
-    throw failure(trouble::refused,
-                  '"' + given + "\": no projection that PROJ knows" + (reason.empty() ? "" : ": " + reason));
+    throw failure(trouble::refused, '"' + given + "\": " +
+                                        std::string(in_language("PROJ не знает такой проекции",
+                                                                "no projection that PROJ knows")) +
+                                        (reason.empty() ? "" : " (" + reason + ')'));
 }
 
 }  // namespace
@@ -45,8 +53,10 @@ target read_target(const std::string& given) {
     const bool file = extension == ".pj4" || extension == ".prj";
     target read = file ? from_file(given, extension) : from_text(given);
     if (const auto system = crs_of(read.proj4); !system->valid())
-        throw failure(trouble::refused, (file ? given + ": " : "") + '"' + read.proj4 +
-                                            "\": PROJ refuses it: " + system->error);
+        throw failure(trouble::refused,
+                      (file ? given + ": " : "") + '"' + read.proj4 +
+                          "\": " + std::string(in_language("PROJ отвергает этот текст", "PROJ refuses it")) +
+                          " (" + system->error + ')');
     return read;
 }
 
@@ -59,8 +69,6 @@ fs::path file_of(const target& wanted, const temporary_folder& folder) {
 
 namespace {
 
-bool is_listed(const scene& asked) { return asked.profile && asked.line; }
-
 bool can_be_read(const std::filesystem::path& file) {
     try {
         project::open(file, open_mode::read_only);
@@ -70,29 +78,6 @@ bool can_be_read(const std::filesystem::path& file) {
     }
 }
 
-[[noreturn]] void refuse(const project& opened, const std::string& reason) {
-    throw failure(trouble::refused, opened.path().string() + ": " + reason);
-}
-
-/// Null when the text is no index of a scene.
-scene* by_index(project& opened, const std::string& text) {
-    const auto index = parse_whole_number(text);
-    return index && *index >= 0 ? opened.at(static_cast<std::size_t>(*index)) : nullptr;
-}
-
-scene& find(project& opened, const std::string& wanted) {
-    if (scene* found = by_index(opened, wanted)) return *found;
-    scene* found = nullptr;
-    for (std::size_t i = 0; i < opened.size(); ++i) {
-        scene& each = *opened.at(i);
-        if (each.caption != wanted) continue;
-        if (found) refuse(opened, "several scenes are called \"" + wanted + "\": name them by their index");
-        found = &each;
-    }
-    if (!found) refuse(opened, "no scene \"" + wanted + '"');
-    return *found;
-}
-
 }  // namespace
 
 std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mode mode) try {
@@ -100,31 +85,6 @@ std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mo
 } catch (const project_error& error) {
     const bool only_writing_fails = mode == open_mode::read_write && can_be_read(file);
     throw failure(only_writing_fails ? trouble::refused : trouble::unreadable, error.what());
-}
-
-std::vector<scene*> all_scenes(project& opened) {
-    std::vector<scene*> all;
-    for (std::size_t i = 0; i < opened.size(); ++i) all.push_back(opened.at(i));
-    return all;
-}
-
-std::vector<scene*> listed_scenes(project& opened) {
-    std::vector<scene*> listed;
-    for (std::size_t i = 0; i < opened.size(); ++i)
-        if (is_listed(*opened.at(i))) listed.push_back(opened.at(i));
-    return listed;
-}
-
-std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted, bool only_listed) {
-    std::set<std::size_t> indexes;
-    for (const std::string& each : wanted) {
-        const scene& found = find(opened, each);
-        if (only_listed && !is_listed(found)) refuse(opened, name_of(found) + " is no profile with a line");
-        indexes.insert(found.index);
-    }
-    std::vector<scene*> selected;
-    for (const std::size_t index : indexes) selected.push_back(opened.at(index));
-    return selected;
 }
 
 }  // namespace oxhost::run

@@ -1,16 +1,16 @@
 #pragma once
-/// What a user asks for - a target, a project, some of its scenes - made out of what was written, and how a
-/// run ends that cannot go on.
+/// What a user asks for - a target, a project - made out of what was written, and how a run ends that cannot
+/// go on.
 
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "base/files.h"
 #include "project/project.h"
+#include "run/selection.h"
 
 namespace oxhost::run {
 
@@ -25,7 +25,8 @@ struct failure : std::runtime_error {
     trouble kind;
 };
 
-/// What lines are to be brought into: `EPSG:n`, a proj4 text, a .pj4 or .prj file, or `none`.
+/// What lines are to be brought into: `EPSG:n` or the bare number, a proj4 text, a .pj4 or .prj file, or
+/// `none`.
 struct target {
     std::string given;                          ///< as the user spelled it
     std::string proj4;                          ///< accepted by PROJ; empty for `none`
@@ -43,15 +44,5 @@ std::filesystem::path file_of(const target& wanted, const temporary_folder& fold
 /// Opens a project. Throws `failure`: a file that cannot be read is `unreadable`, one that can only be read
 /// but is to be changed `refused`.
 std::unique_ptr<project> open_project(const std::filesystem::path& file, open_mode mode);
-
-/// The scenes that the plug-in's dialog lists: profiles that have a line, in project order.
-std::vector<scene*> listed_scenes(project& opened);
-
-std::vector<scene*> all_scenes(project& opened);
-
-/// Scenes by index or caption, each once, in project order. Throws `failure` (refused) for one that is not
-/// there, a caption of several scenes, or one that is not listed where `only_listed` are asked for.
-std::vector<scene*> select_scenes(project& opened, const std::vector<std::string>& wanted,
-                                  bool only_listed = true);
 
 }  // namespace oxhost::run
