@@ -5,6 +5,7 @@
 #include "exchange/gdal.h"
 #include "exchange/layer_attributes.h"
 #include "exchange/writers.h"
+#include "exchange/written_attributes.h"
 
 namespace oxhost {
 
@@ -54,7 +55,7 @@ private:
     struct open_layer {
         const export_layer* as;
         OGRLayer* layer;
-        layer_attributes attributes;
+        written_attributes attributes;
         bool flat_lines = false;  ///< some lines lack heights or measures that others have
     };
 

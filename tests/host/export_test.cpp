@@ -154,7 +154,7 @@ TEST(Export, ShapefileTellsWhatItCannotHold) {
     make_survey(box);
     const auto run = box.oxhost({"export", "p.gpkg", "o.shp"});
     for (const char* line :
-         {"field names shortened: 2 (depth_to_basement = depth_to_b, depth_to_moho = depth_to_m)",
+         {"(depth_to_basement = depth_to_b, depth_to_moho = depth_to_m, source_layer = source_lay)",
           "boolean fields written as 0 and 1: 1 (open)", "date-time fields written as text: 1 (logged)",
           "lines without heights, written at height 0: 2", "lines without measures, written at measure 0: 1"})
         EXPECT_NE(run.error.find(line), run.error.npos) << line << '\n' << run.error;
@@ -184,7 +184,7 @@ TEST_CASES(
      0,
      "lines without projection: 1",
      "o_EPSG_32640 (Line String) o_no_projection (Line String) o_tmerc_57 (Line String) "},
-    {"SameSystemWrittenTwice", {"o.shp", "--scene", "utm", "utm too"}, 0, "", "o (Line String) "},
+    {"SameSystemWrittenTwice", {"o.gpkg", "--scene", "utm", "utm too"}, 0, "", "o (Line String) "},
     {"SeveralInOneLayer", {"o.shp", "--scene", "0", "1"}, 2, "the lines are in 2 projections", nullptr},
     {"BareAmongOthers", {"o.geojson"}, 2, "lines without projection: 1; leave them out", nullptr},
     {"BareAlone", {"o.geojson", "--scene", "bare"}, 0, "are not longitude and latitude", "o (Line String) "},

@@ -15,9 +15,9 @@ namespace oxhost {
 
 /// The fields of one layer, in the order that they are made in. A field that the format has no type for is
 /// made of one that holds its values, or left out; what that means for the values is counted.
-class layer_attributes {
+class written_attributes {
 public:
-    layer_attributes(OGRLayer& layer, export_format format, losses& lost)
+    written_attributes(OGRLayer& layer, export_format format, losses& lost)
         : layer_(layer), format_(format), lost_(lost) {}
 
     /// False when GDAL refuses.

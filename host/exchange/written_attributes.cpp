@@ -1,4 +1,4 @@
-#include "exchange/layer_attributes.h"
+#include "exchange/written_attributes.h"
 
 #include <ogrsf_frmts.h>
 
@@ -99,7 +99,7 @@ std::size_t text_limit(export_format format) {
     return format == export_format::shapefile ? dbase_text_width : 0;
 }
 
-std::string layer_attributes::fitting_name(const std::string& name) const {
+std::string written_attributes::fitting_name(const std::string& name) const {
     if (format_ != export_format::shapefile) return name;
     std::string fitting = beginning(name, dbase_name_width);
     for (int number = 1; layer_.GetLayerDefn()->GetFieldIndex(fitting.c_str()) >= 0; ++number) {
@@ -109,7 +109,7 @@ std::string layer_attributes::fitting_name(const std::string& name) const {
     return fitting;
 }
 
-bool layer_attributes::add(const field& wanted) {
+bool written_attributes::add(const field& wanted) {
     const bool dbase = format_ == export_format::shapefile;
     column& made = columns_.emplace_back(column{wanted});
     if (dbase && wanted.type == field_type::binary) return true;
@@ -133,7 +133,7 @@ bool layer_attributes::add(const field& wanted) {
     return true;
 }
 
-void layer_attributes::set(OGRFeature& feature, const std::vector<field_value>& values) const {
+void written_attributes::set(OGRFeature& feature, const std::vector<field_value>& values) const {
     for (std::size_t i = 0; i < std::min(values.size(), columns_.size()); ++i) {
         const column& to = columns_[i];
         if (std::holds_alternative<std::monostate>(values[i])) continue;
@@ -148,7 +148,7 @@ void layer_attributes::set(OGRFeature& feature, const std::vector<field_value>& 
     }
 }
 
-bool layer_attributes::set(OGRFeature& feature, const column& to, const field_value& value) const {
+bool written_attributes::set(OGRFeature& feature, const column& to, const field_value& value) const {
     switch (to.as.type) {
         case field_type::integer:
         case field_type::boolean: {
@@ -187,7 +187,7 @@ bool layer_attributes::set(OGRFeature& feature, const column& to, const field_va
     return true;
 }
 
-void layer_attributes::note_rounding(const column& to, const field_value& value) const {
+void written_attributes::note_rounding(const column& to, const field_value& value) const {
     const auto rounded = [&](std::string_view kind) { lost_.add(kind, to.as.name); };
     if (const auto* text = std::get_if<std::string>(&value)) {
         if (to.as.type == field_type::date_time && format_ != export_format::shapefile &&
