@@ -3,7 +3,6 @@
 
 #include "base/language.h"
 #include "exchange/gdal.h"
-#include "exchange/layer_attributes.h"
 #include "exchange/writers.h"
 #include "exchange/written_attributes.h"
 
