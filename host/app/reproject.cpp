@@ -99,8 +99,11 @@ void add_reproject(CLI::App& app, action& chosen) {
     auto options = std::make_shared<reproject_options>();
     run::order& wanted = options->wanted;
     CLI::App* command =
-        app.add_subcommand("reproject", "Bring the lines of profile scenes into a projection");
-    command->add_option("project", wanted.project, "The project")->type_name("PROJECT.gpkg")->required();
+        app.add_subcommand("reproject", words("Перевести линии сцен профилей в другую проекцию",
+                                              "Bring the lines of profile scenes into a projection"));
+    command->add_option("project", wanted.project, words("Проект", "The project"))
+        ->type_name("PROJECT.gpkg")
+        ->required();
     command->add_option("--to", wanted.target, target_help)->type_name("TARGET")->required();
 
     auto* all = command->add_flag("--all", options->all, words("Все сцены профилей", "Every profile scene"));
@@ -117,21 +120,29 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("TARGET");
 
     add_answers(*command, options->console);
-    command->add_flag("--dry-run", wanted.dry_run, "Do all of it, but leave the project as it is");
+    command->add_flag(
+        "--dry-run", wanted.dry_run,
+        words("Выполнить всё, но оставить проект прежним", "Do all of it, but leave the project as it is"));
     using run::on_error;
     static const std::map<std::string, on_error> policies{
         {"stop", on_error::stop}, {"skip", on_error::skip}, {"rollback", on_error::rollback}};
     command
         ->add_option("--on-error", wanted.policy,
-                     "After a failed scene: stop (default), skip it and go on, or rollback all")
+                     words("После ошибки в сцене: остановиться (stop, по умолчанию), пропустить её (skip) "
+                           "или вернуть всё (rollback)",
+                           "After a failed scene: stop (default), skip it and go on, or rollback all"))
         ->type_name("stop|skip|rollback")
         ->transform(CLI::CheckedTransformer(policies).description(""));
     command->add_flag("--no-undo", wanted.no_undo,
                       std::string(in_language("Не хранить прежние линии: запуск нельзя будет отменить",
                                               "Keep no former lines: the run cannot be undone")));
-    command->add_option("--report", options->report, "What became of each scene, as JSON")
+    command
+        ->add_option("--report", options->report,
+                     words("Что стало с каждой сценой, в JSON", "What became of each scene, as JSON"))
         ->type_name("FILE.json");
-    command->add_option("--map", options->map, "A picture of the lines before and after")
+    command
+        ->add_option("--map", options->map,
+                     words("Карта линий до и после", "A picture of the lines before and after"))
         ->type_name("FILE.svg");
     command
         ->add_option("--return-tolerance", wanted.rules.return_tolerance,
@@ -151,7 +162,8 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("METRES")
         ->check(CLI::PositiveNumber);
     add_overwrite(*command, options->overwrite);
-    command->add_flag("--quiet", options->console.quiet, "Say nothing but errors and questions");
+    command->add_flag("--quiet", options->console.quiet,
+                      words("Сообщать только ошибки и вопросы", "Say nothing but errors and questions"));
     add_language(*command);
     add_bundle(*command, wanted.bundle);
     command->callback([options, &chosen] {

@@ -21,13 +21,21 @@ bool says_all(const std::string& wkt, std::string_view proj4) {
     return text && equal(*text, proj4);
 }
 
+/// The code of a text that is the very system that the code stands for: others have the code's name with a shift
+/// of their own, by which a reader would not go.
+std::string exact_code(std::string_view proj4) {
+    const auto code = epsg_code(proj4);
+    const auto meant = code ? import_crs(*code) : std::nullopt;
+    return meant && equal(*meant, proj4) ? *code : std::string();
+}
+
 }  // namespace
 
 crs_spelling spell_out(std::string_view proj4) {
     const auto system = crs_of(proj4);
     if (!system->valid()) throw std::invalid_argument(system->error);
     crs_spelling spelled;
-    spelled.epsg = epsg_code(proj4).value_or("");
+    spelled.epsg = exact_code(proj4);
     spelled.wkt = wkt_of(system->object.get(), PJ_WKT1_GDAL);
     if (spelled.wkt.empty() || !says_all(spelled.wkt, proj4))
         spelled.wkt = wkt_of(system->object.get(), PJ_WKT2_2019);
