@@ -109,10 +109,11 @@ pj_ptr easting_first_way(const PJ* from, const PJ* to) {
 pj_ptr published_operation(const PJ* system, const geographic_area& area) {
     if (!system || !wgs84_system()) return nullptr;
     operation_search search(area);
+    if (pj_ptr found = search.find(system, PROJ_INTERMEDIATE_CRS_USE_IF_NO_DIRECT_TRANSFORMATION))
+        return found;
+    if (pj_ptr found = search.elsewhere()) return found;
     // where there are operations with grids alone, PROJ looks for none by way of a third system by itself
-    for (const auto third_systems :
-         {PROJ_INTERMEDIATE_CRS_USE_IF_NO_DIRECT_TRANSFORMATION, PROJ_INTERMEDIATE_CRS_USE_ALWAYS})
-        if (pj_ptr found = search.find(system, third_systems)) return found;
+    if (pj_ptr found = search.find(system, PROJ_INTERMEDIATE_CRS_USE_ALWAYS)) return found;
     return search.elsewhere();
 }
 

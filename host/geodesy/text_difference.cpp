@@ -152,6 +152,9 @@ text_difference difference_of(std::string_view definition, std::string_view proj
     }
     difference.lost = losses(before, after, wanted);
     difference.metres = largest_distance(before, after);
+    // PROJ has a way by grids alone
+    if (difference.changed() && difference.lost.empty() && !after.shifted)
+        difference.lost.emplace_back(text_in(wanted, "переход к датуму WGS 84", "datum shift"));
     return difference;
 }
 
