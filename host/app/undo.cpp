@@ -114,7 +114,7 @@ void add_undo(CLI::App& app, action& chosen) {
                                          "Show the runs that can be undone, newest first"));
     command
         ->add_flag("--json", options->json,
-                   words("Как JSON: id, started, target, proj4, scenes",
+                   words("В виде JSON: id, started, target, proj4, scenes",
                          "As JSON: id, started, target, proj4, scenes"))
         ->needs(list);
     command

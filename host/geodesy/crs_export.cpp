@@ -21,8 +21,8 @@ bool says_all(const std::string& wkt, std::string_view proj4) {
     return text && equal(*text, proj4);
 }
 
-/// The code of a text that is the very system that the code stands for: others have the code's name with a shift
-/// of their own, by which a reader would not go.
+/// The code of a text that is the very system that the code stands for: others have the code's name with a
+/// shift of their own, by which a reader would not go.
 std::string exact_code(std::string_view proj4) {
     const auto code = epsg_code(proj4);
     const auto meant = code ? import_crs(*code) : std::nullopt;

@@ -32,7 +32,8 @@ bool agree_within(const extent& bounds, const std::string& a, const std::string&
         const bool found = std::isfinite(place_a.x);
         if (found != std::isfinite(place_b.x)) return false;
         if (!found) continue;
-        const double east = std::remainder(place_a.x - place_b.x, 360) * std::cos(place_a.y * std::numbers::pi / 180);
+        const double east =
+            std::remainder(place_a.x - place_b.x, 360) * std::cos(place_a.y * std::numbers::pi / 180);
         if (std::hypot(east, place_a.y - place_b.y) > same_place) return false;
     }
     return true;

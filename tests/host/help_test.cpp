@@ -21,12 +21,11 @@ std::vector<std::string> commands_of(const std::string& help) {
 
 /// Latin words in small letters beside options, commands, placeholders and values, extensions and keys.
 std::set<std::string> english_words(std::string help) {
-    for (const char* allowed : {"-{1,2}[a-z][-a-z0-9]*", "\\.[a-z0-9]+", "oxhost [a-z]*", "\\S*[|=()]\\S*",
-                                "oxk_\\w+", "\n  [a-z]+ ", "\\S+\\.gpkg"})
+    for (const char* allowed : {"JSON: [^\n]*", "-{1,2}[a-z][-a-z0-9]*", "\\.[a-z0-9]+", "oxhost [a-z]*",
+                                "\\S*[|=()]\\S*", "oxk_\\w+", "\n  [a-z]+ ", "\\S+\\.gpkg"})
         help = std::regex_replace(help, std::regex(allowed), "\n  ");
-    static const std::set<std::string> names{"proj4", "none",  "ru",      "en",      "oxhost",
-                                             "ox",    "index", "caption", "profile", "vertices",
-                                             "epsg",  "name",  "title",   "pj4",     "prj"};
+    static const std::set<std::string> names{"proj4",   "none",    "ru",   "en",    "oxhost", "ox",
+                                             "caption", "profile", "name", "title", "pj4",    "prj"};
     std::set<std::string> found;
     const std::regex word("[a-z][a-z0-9]+");
     for (auto it = std::sregex_iterator(help.begin(), help.end(), word); it != std::sregex_iterator(); ++it)
