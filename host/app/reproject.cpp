@@ -74,6 +74,8 @@ exit_code reproject(const reproject_options& options) {
     if (!options.console.quiet)
         for (const std::string& each : work.warnings())
             std::cerr << in_language("предупреждение: ", "warning: ") << each << '\n';
+    if (!options.console.quiet)
+        for (const std::string& each : work.operations()) std::cerr << each << '\n';
     messages::instance().use(std::make_unique<console_messages>(console::standard(), options.console));
     work.perform([](const run::scene_result& failed) { std::cerr << failure_line(failed) << '\n'; });
     exit_code code = code_of(work.results());

@@ -4,6 +4,7 @@
 
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
+#include "geodesy/pair_operations.h"
 
 namespace oxhost {
 namespace {
@@ -19,14 +20,6 @@ bool says_all(const std::string& wkt, std::string_view proj4) {
     const pj_ptr read(proj_create(proj_context(), wkt.c_str()));
     const auto text = read ? proj4_of(read.get()) : std::nullopt;
     return text && equal(*text, proj4);
-}
-
-/// The code of a text that is the very system that the code stands for: others have the code's name with a
-/// shift of their own, by which a reader would not go.
-std::string exact_code(std::string_view proj4) {
-    const auto code = epsg_code(proj4);
-    const auto meant = code ? import_crs(*code) : std::nullopt;
-    return meant && equal(*meant, proj4) ? *code : std::string();
 }
 
 }  // namespace

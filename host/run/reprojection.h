@@ -66,6 +66,9 @@ public:
 
     /// As `advise` gives them.
     const std::vector<std::string>& warnings() const { return warnings_; }
+    /// For each source projection one line: operation and accuracy, a better one that lacks only a grid, and
+    /// what the texts cannot express. Before `perform`; of the first few, since looking takes time.
+    std::vector<std::string> operations();
     /// Drives the plug-in until the order's policy is content, or a signal ends it after the scene in hand.
     /// Failures are told when they have happened.
     void perform(const failure_listener& tell = {});

@@ -204,7 +204,11 @@ TEST_F(Store, KeepsAttributesHeightsAndMeasures) {
         added.add({"V", true, "", {}, {"deep", std::monostate{}}});
         added.commit();
     }
-    { addition dropped(*open_project()); }
+    {
+        const auto opened = open_project();
+        addition dropped(*opened);
+        dropped.add(well);
+    }
     const auto opened = open_project(open_mode::read_only);
     ASSERT_EQ(opened->size(), 6U);
     EXPECT_EQ(opened->fields().size(), 3U);
