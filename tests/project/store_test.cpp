@@ -207,7 +207,7 @@ TEST_F(Store, KeepsAttributesHeightsAndMeasures) {
     {
         const auto opened = open_project();
         addition dropped(*opened);
-        dropped.add(well);
+        dropped.add({"D", true, "", {}});
     }
     const auto opened = open_project(open_mode::read_only);
     ASSERT_EQ(opened->size(), 6U);
