@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 #include <stdexcept>
 
 #include "base/language.h"
@@ -74,6 +75,7 @@ struct own_ellipsoid {
         if (line == placed && places) return places;
         placed = line;
         places.reset();
+        lengths.reset();
         if (!to_base) return places;
         polyline result = line;
         if (!result.empty()) {
@@ -88,12 +90,26 @@ struct own_ellipsoid {
         return places = std::move(result);
     }
 
+    /// Of the segments along the ellipsoid, in metres; null where the line has no place. Lent likewise:
+    /// finding geodesics takes most of a report's time.
+    const std::vector<double>* segment_lengths(const polyline& line) const {
+        const auto& along = longitudes_latitudes(line);
+        if (!along) return nullptr;
+        if (lengths) return &*lengths;
+        const geodesics ground(shape.a, shape.rf);
+        lengths.emplace();
+        for (std::size_t i = 1; i < along->size(); ++i)
+            lengths->push_back(ground.distance((*along)[i - 1], (*along)[i]));
+        return &*lengths;
+    }
+
     std::shared_ptr<const crs> system;
     ellipsoid shape;
     pj_ptr to_base;
     double prime_meridian = 0;  ///< degrees
     mutable polyline placed;
     mutable std::optional<polyline> places;
+    mutable std::optional<std::vector<double>> lengths;
 };
 
 const own_ellipsoid& own_ellipsoid_of(std::string_view proj4) {
@@ -115,14 +131,9 @@ double ground_distance(point a, point b) {
 }
 
 std::optional<double> geodesic_length(const polyline& line, std::string_view proj4) {
-    const own_ellipsoid& own = own_ellipsoid_of(proj4);
-    const auto& places = own.longitudes_latitudes(line);
-    if (!places) return {};
-    const geodesics ground(own.shape.a, own.shape.rf);
-    double metres = 0;
-    for (std::size_t i = 1; i < places->size(); ++i)
-        metres += ground.distance((*places)[i - 1], (*places)[i]);
-    return metres;
+    const auto* lengths = own_ellipsoid_of(proj4).segment_lengths(line);
+    if (!lengths) return {};
+    return std::accumulate(lengths->begin(), lengths->end(), 0.0);
 }
 
 std::optional<double> planar_length(const polyline& line, std::string_view proj4) {
@@ -173,13 +184,12 @@ std::optional<number_shift> shift_of_numbers(const polyline& before, std::string
 
 std::optional<double> length_distortion(const polyline& line, std::string_view proj4) {
     const own_ellipsoid& own = own_ellipsoid_of(proj4);
-    const auto& places = own.longitudes_latitudes(line);
-    if (!places) return {};
+    const auto* lengths = own.segment_lengths(line);
+    if (!lengths) return {};
     if (own.system->geographic) return 0;
-    const geodesics ground(own.shape.a, own.shape.rf);
     double worst = 0;
     for (std::size_t i = 1; i < line.size(); ++i) {
-        const double metres = ground.distance((*places)[i - 1], (*places)[i]);
+        const double metres = (*lengths)[i - 1];
         if (metres < 0.1) continue;  // rounding would speak, not the projection
         const double drawn =
             std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y) * own.system->metres_per_unit;
