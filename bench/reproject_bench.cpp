@@ -171,7 +171,7 @@ void measure(const std::string& oxhost, const fs::path& folder) {
         };
         run_with(reproject, {});
         run_with(without_undo, {"--no-undo"});
-        run_with(with_report, {"--report", folder / "report.json"});
+        run_with(with_report, {"--report", folder / "report.json", "--overwrite"});
         fs::remove(converted);
         if (has_ogr2ogr)
             ogr2ogr.keep_best(run_program({"ogr2ogr", "-f", "GPKG", "-s_srs", source, "-t_srs", target,

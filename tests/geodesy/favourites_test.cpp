@@ -85,8 +85,8 @@ TEST_F(Favourites, UnreadableFileIsNotReplaced) {
 /// Each of two writers loaded the same list; neither loses what the other did, and a linked file stays one.
 TEST_F(Favourites, OfSeveralWritersMerge) {
     std::filesystem::create_directories(folder_ / "new/config");
-    std::filesystem::create_directories(folder_ / "shared");
-    std::filesystem::create_symlink("../../shared/list.json", favourites_path());
+    std::filesystem::create_directories(folder_ / "common");
+    std::filesystem::create_symlink("../../common/list.json", favourites_path());
     favourite_list first = loaded();
     for (const char* caption : {"kept", "renamed", "removed", "removed by both"})
         first.add({caption, caption});
@@ -106,7 +106,7 @@ TEST_F(Favourites, OfSeveralWritersMerge) {
     EXPECT_EQ(captions, expected);
     EXPECT_EQ(loaded().count(), 4);
     EXPECT_TRUE(std::filesystem::is_symlink(favourites_path()));
-    EXPECT_TRUE(std::filesystem::is_regular_file(folder_ / "shared/list.json"));
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder_ / "common/list.json"));
 }
 
 }  // namespace
