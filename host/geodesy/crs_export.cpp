@@ -4,7 +4,6 @@
 
 #include "geodesy/crs.h"
 #include "geodesy/crs_import.h"
-#include "geodesy/pair_operations.h"
 
 namespace oxhost {
 namespace {

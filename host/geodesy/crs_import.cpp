@@ -109,4 +109,10 @@ std::optional<std::string> epsg_code(std::string_view proj4) {
     return by_published_shift;
 }
 
+std::string exact_code(std::string_view proj4) {
+    const auto code = epsg_code(proj4);
+    const auto meant = code ? import_crs(*code) : std::nullopt;
+    return meant && equal(*meant, proj4) ? *code : std::string();
+}
+
 }  // namespace oxhost

@@ -27,4 +27,8 @@ std::optional<std::string> proj4_of(const PJ* crs_object, std::optional<point> n
 /// datum; nothing otherwise.
 std::optional<std::string> epsg_code(std::string_view proj4);
 
+/// The code only of a text that is the very system that the code stands for, shift and all, since readers of
+/// a code take the shift of their own choice; empty for others.
+std::string exact_code(std::string_view proj4);
+
 }  // namespace oxhost

@@ -52,10 +52,6 @@ public:
         PJ_CONTEXT* const context = proj_context();
         proj_operation_factory_context_set_area_of_interest(context, factory_.get(), area.west, area.south,
                                                             area.east, area.north);
-        proj_operation_factory_context_set_spatial_criterion(context, factory_.get(),
-                                                             PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
-        proj_operation_factory_context_set_grid_availability_use(context, factory_.get(),
-                                                                 PROJ_GRID_AVAILABILITY_IGNORED);
         proj_operation_factory_context_set_allow_ballpark_transformations(context, factory_.get(), 0);
     }
 
@@ -89,7 +85,7 @@ public:
 
 private:
     point place_;
-    pj_factory_ptr factory_{proj_create_operation_factory_context(proj_context(), nullptr)};
+    pj_factory_ptr factory_ = operation_factory();
     pj_ptr elsewhere_;
 };
 

@@ -17,13 +17,9 @@ pj_list_ptr operations_between(const coded_system& source, const coded_system& t
     const pj_ptr from(proj_create(context, source.code.c_str())),
         to(proj_create(context, target.code.c_str()));
     if (!from || !to) return nullptr;
-    const pj_factory_ptr factory(proj_create_operation_factory_context(context, nullptr));
+    const pj_factory_ptr factory = operation_factory();
     proj_operation_factory_context_set_area_of_interest(context, factory.get(), degrees.x, degrees.y,
                                                         degrees.x, degrees.y);
-    proj_operation_factory_context_set_spatial_criterion(context, factory.get(),
-                                                         PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
-    proj_operation_factory_context_set_grid_availability_use(context, factory.get(),
-                                                             PROJ_GRID_AVAILABILITY_IGNORED);
     return pj_list_ptr(proj_create_operations(context, from.get(), to.get(), factory.get()));
 }
 
@@ -76,12 +72,6 @@ pair_operations operations_beside(const coded_system& source, const coded_system
     const auto metres = distance({at.x, at.y}, by_texts.front(), target.proj4);
     if (metres && *metres > noticeable) found.unexpressed = {proj_get_name(own.get()), *metres};
     return found;
-}
-
-std::string exact_code(std::string_view proj4) {
-    const auto code = epsg_code(proj4);
-    const auto meant = code ? import_crs(*code) : std::nullopt;
-    return meant && equal(*meant, proj4) ? *code : std::string();
 }
 
 }  // namespace oxhost

@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "base/line.h"
 
@@ -34,8 +33,5 @@ struct pair_operations {
 /// At `place`, given in the source. `accuracy`: metres, of the way that the texts take.
 pair_operations operations_beside(const coded_system& source, const coded_system& target, point place,
                                   std::optional<double> accuracy);
-
-/// The code of a text that is the very system that the code stands for, shift and all; empty for others.
-std::string exact_code(std::string_view proj4);
 
 }  // namespace oxhost

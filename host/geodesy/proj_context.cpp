@@ -32,6 +32,15 @@ PJ_CONTEXT* proj_context() {
     return context;
 }
 
+pj_factory_ptr operation_factory() {
+    pj_factory_ptr factory(proj_create_operation_factory_context(proj_context(), nullptr));
+    proj_operation_factory_context_set_spatial_criterion(proj_context(), factory.get(),
+                                                         PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
+    proj_operation_factory_context_set_grid_availability_use(proj_context(), factory.get(),
+                                                             PROJ_GRID_AVAILABILITY_IGNORED);
+    return factory;
+}
+
 std::string take_proj_complaint() {
     std::string text = std::exchange(complaint(), {});
     // "proj_create: Error 1027 (Invalid value for an argument): utm: Invalid value for zone"

@@ -22,6 +22,9 @@ using pj_factory_ptr = std::unique_ptr<PJ_OPERATION_FACTORY_CONTEXT, pj_deleter>
 
 PJ_CONTEXT* proj_context();
 
+/// Finds operations whose area touches the one that is asked for, also those whose grids are not here.
+pj_factory_ptr operation_factory();
+
 /// The most telling of the complaints since the last call; empty when there was none.
 std::string take_proj_complaint();
 

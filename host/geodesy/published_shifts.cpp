@@ -98,15 +98,11 @@ std::vector<published_shift> published_shifts(const PJ* crs_object) {
     PJ_CONTEXT* const context = proj_context();
     const pj_ptr base = geographic_base(crs_object);
     if (!base || !wgs84_system()) return shifts;
-    const pj_factory_ptr factory(proj_create_operation_factory_context(context, nullptr));
+    const pj_factory_ptr factory = operation_factory();
     if (const auto area = area_of(crs_object)) {
         proj_operation_factory_context_set_area_of_interest(context, factory.get(), area->west, area->south,
                                                             area->east, area->north);
     }
-    proj_operation_factory_context_set_spatial_criterion(context, factory.get(),
-                                                         PROJ_SPATIAL_CRITERION_PARTIAL_INTERSECTION);
-    proj_operation_factory_context_set_grid_availability_use(context, factory.get(),
-                                                             PROJ_GRID_AVAILABILITY_IGNORED);
     // a shift by way of a third system is nobody's publication
     proj_operation_factory_context_set_allow_use_intermediate_crs(context, factory.get(),
                                                                   PROJ_INTERMEDIATE_CRS_USE_NEVER);
