@@ -109,9 +109,8 @@ exit_code import(const import_command& command) try {
     for (const fs::path& source : command.sources) {
         std::error_code ignored;
         if (fs::equivalent(source, command.project, ignored))
-            throw failure(
-                exit_code::nothing_done,
-                source.string() + std::string(in_language(": это сам проект", ": is the project itself")));
+            throw failure(exit_code::nothing_done,
+                          source.string() + words(": это сам проект", ": is the project itself"));
     }
     const import_options how = options_of(command);
     std::vector<import_report> reports;
@@ -130,8 +129,7 @@ exit_code import(const import_command& command) try {
     if (!nothing && !command.quiet)
         for (std::size_t i = 0; i < reports.size(); ++i) print(command.sources[i], reports[i]);
     if (!nothing) return exit_code::done;
-    std::string line =
-        command.sources.front().string() + std::string(in_language(": нет линий", ": no lines"));
+    std::string line = command.sources.front().string() + words(": нет линий", ": no lines");
     if (!reports[0].losses.empty()) line += "; " + reports[0].losses;
     for (const std::string& each : reports[0].remarks) line += "; " + each;
     throw failure(exit_code::nothing_done, line);
@@ -139,9 +137,7 @@ exit_code import(const import_command& command) try {
     throw failure(exit_code::unreadable, e.what());
 }
 
-std::string text(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
+std::string text(std::string_view russian, std::string_view english) { return words(russian, english); }
 
 }  // namespace
 

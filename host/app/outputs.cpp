@@ -11,14 +11,13 @@ namespace oxhost::app {
 
 void add_overwrite(CLI::App& subcommand, bool& result) {
     subcommand.add_flag("--overwrite", result,
-                        std::string(in_language("Заменять существующие файлы (проекты — никогда)",
-                                                "Replace files that exist (never a project)")));
+                        words("Заменять существующие файлы (проекты — никогда)",
+                              "Replace files that exist (never a project)"));
 }
 
 void check_output(const std::filesystem::path& file, bool overwrite) {
     const auto refuse = [&](std::string_view russian, std::string_view english) {
-        throw failure(exit_code::nothing_done,
-                      file.string() + ": " + std::string(in_language(russian, english)));
+        throw failure(exit_code::nothing_done, file.string() + ": " + words(russian, english));
     };
     if (is_project(file))
         refuse("это проект; проекты не заменяются", "is a project, and a project is never replaced");

@@ -34,14 +34,14 @@ void check_outputs(const reproject_options& options) {
         if (!out.empty()) check_output(out, options.overwrite);
     if (!options.map.empty() && options.map == options.report)
         throw failure(exit_code::nothing_done,
-                      options.map.string() + std::string(in_language(": не может быть и отчётом, и картой",
-                                                                     ": cannot be both report and map")));
+                      options.map.string() +
+                          words(": не может быть и отчётом, и картой", ": cannot be both report and map"));
 }
 
 /// Names the signal, and that it ended the work.
 std::string interruption_line() {
     const std::string name = interrupting_signal() == SIGINT ? "SIGINT" : "SIGTERM";
-    return "oxhost: " + std::string(in_language("прервано сигналом " + name, "interrupted by " + name));
+    return "oxhost: " + words("прервано сигналом " + name, "interrupted by " + name);
 }
 
 exit_code code_of(const std::vector<run::scene_result>& results) {
@@ -136,8 +136,8 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("stop|skip|rollback")
         ->transform(CLI::CheckedTransformer(policies).description(""));
     command->add_flag("--no-undo", wanted.no_undo,
-                      std::string(in_language("Не хранить прежние линии: запуск нельзя будет отменить",
-                                              "Keep no former lines: the run cannot be undone")));
+                      words("Не хранить прежние линии: запуск нельзя будет отменить",
+                            "Keep no former lines: the run cannot be undone"));
     command
         ->add_option("--report", options->report,
                      words("Что стало с каждой сценой, в JSON", "What became of each scene, as JSON"))
@@ -148,19 +148,19 @@ void add_reproject(CLI::App& app, action& chosen) {
         ->type_name("FILE.svg");
     command
         ->add_option("--return-tolerance", wanted.rules.return_tolerance,
-                     std::string(in_language("На сколько метров вершина может не вернуться на своё место "
-                                             "(по умолчанию 0.01)",
-                                             "Metres by which a vertex may miss its place on the way back "
-                                             "(default 0.01)")))
+                     words("На сколько метров вершина может не вернуться на своё место "
+                           "(по умолчанию 0.01)",
+                           "Metres by which a vertex may miss its place on the way back "
+                           "(default 0.01)"))
         ->type_name("METRES")
         ->check(CLI::NonNegativeNumber);
     command->add_flag("--one-way", wanted.rules.one_way,
-                      std::string(in_language("Разрешить целевую проекцию, из которой нет обратного пути",
-                                              "Allow a target from which there is no way back")));
+                      words("Разрешить целевую проекцию, из которой нет обратного пути",
+                            "Allow a target from which there is no way back"));
     command
         ->add_option("--densify", wanted.rules.densify,
-                     std::string(in_language("Добавить вершины там, где отрезок прогнулся бы больше",
-                                             "Add vertices where a segment would bow by more")))
+                     words("Добавить вершины там, где отрезок прогнулся бы больше",
+                           "Add vertices where a segment would bow by more"))
         ->type_name("METRES")
         ->check(CLI::PositiveNumber);
     add_overwrite(*command, options->overwrite);

@@ -15,9 +15,8 @@ export_format format_of(const fs::path& out) {
     if (geojson || is_stream(out)) return export_format::geojson;
     if (extension == ".gpkg") return export_format::geopackage;
     if (extension == ".shp") return export_format::shapefile;
-    throw exchange_error(out.string() +
-                         std::string(in_language(": неизвестный формат; возможны .geojson, .gpkg и .shp",
-                                                 ": unknown format; write .geojson, .gpkg or .shp")));
+    throw exchange_error(out.string() + words(": неизвестный формат; возможны .geojson, .gpkg и .shp",
+                                              ": unknown format; write .geojson, .gpkg or .shp"));
 }
 
 std::vector<fs::path> files_of(const fs::path& out) {

@@ -55,8 +55,7 @@ public:
         to_ << "\n]}\n";
         to_.close();
         if (!to_)
-            throw exchange_error(order_.out.string() +
-                                 std::string(in_language(": запись невозможна", ": cannot be written")));
+            throw exchange_error(order_.out.string() + words(": запись невозможна", ": cannot be written"));
     }
 
 private:
@@ -106,8 +105,8 @@ private:
     /// Shortest digits that read back as the same number.
     void add_number(double number, const new_scene& of, std::size_t vertex) {
         if (!std::isfinite(number))
-            throw exchange_error(order_.out.string() + ": \"" + of.caption + "\": " +
-                                 std::string(in_language("не число в вершине ", "no number at vertex ")) +
+            throw exchange_error(order_.out.string() + ": \"" + of.caption +
+                                 "\": " + words("не число в вершине ", "no number at vertex ") +
                                  std::to_string(vertex));
         std::array<char, 32> digits{};
         text_.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);

@@ -51,9 +51,7 @@ std::string definition(const proj4_text& tokens, const canonical_keys& canonical
     return text.str() + " +type=crs";
 }
 
-std::string say(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
+std::string say(std::string_view russian, std::string_view english) { return words(russian, english); }
 
 std::string refusal() {
     const std::string reason = take_proj_complaint();

@@ -33,9 +33,7 @@ std::string configuration_folder() {
     return home + "/.config/oxhost";
 }
 
-std::string said(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
+std::string said(std::string_view russian, std::string_view english) { return words(russian, english); }
 
 /// Where a chain of links leads, to a file that need not exist.
 std::filesystem::path link_target(std::filesystem::path file) {

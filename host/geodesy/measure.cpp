@@ -53,8 +53,8 @@ struct own_ellipsoid {
     explicit own_ellipsoid(std::string_view proj4)
         : system(crs_of(proj4)), shape(system->valid() ? ellipsoid_of(system->object.get()) : ellipsoid{}) {
         if (!system->valid())
-            throw std::invalid_argument(std::string(in_language("проекция", "projection")) + " \"" +
-                                        system->text + "\": " + system->error);
+            throw std::invalid_argument(words("проекция", "projection") + " \"" + system->text +
+                                        "\": " + system->error);
         const pj_ptr base = geographic_base(system->object.get());
         const pj_ptr plain(proj_get_type(system->object.get()) == PJ_TYPE_BOUND_CRS
                                ? proj_get_source_crs(proj_context(), system->object.get())

@@ -17,9 +17,7 @@ namespace {
 
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
-std::string say(std::string_view russian, std::string_view english) {
-    return std::string(in_language(russian, english));
-}
+std::string say(std::string_view russian, std::string_view english) { return words(russian, english); }
 
 std::string companion_of(const std::string& path) { return path + ".pj4"; }
 

@@ -14,13 +14,13 @@ reprojection_rules& rules() {
 
 std::string missed_by(double metres, double tolerance) {
     if (!std::isfinite(metres))
-        return std::string(in_language("не возвращается из целевой проекции на своё место",
-                                       "does not come back from the target projection to its place"));
+        return words("не возвращается из целевой проекции на своё место",
+                     "does not come back from the target projection to its place");
     const std::string size = number_text(metres < 10 ? std::round(metres * 1000) / 1000 : std::round(metres));
     const std::string allowed = number_text(tolerance);
-    return std::string(in_language(
+    return words(
         "возвращается из целевой проекции в " + size + " м от своего места (допуск " + allowed + " м)",
-        "comes back from the target projection " + size + " m from its place (allowed: " + allowed + " m)"));
+        "comes back from the target projection " + size + " m from its place (allowed: " + allowed + " m)");
 }
 
 }  // namespace
@@ -31,10 +31,10 @@ void use_rules(const reprojection_rules& wanted) { rules() = wanted; }
 std::optional<std::string> refusal_of_target(std::string_view proj4) {
     if (current_rules().one_way || has_inverse(proj4)) return {};
     const std::string text(proj4);
-    return std::string(in_language(
+    return words(
         "проекция \"" + text + "\" не имеет обратной: вернуть линии из неё нельзя (--one-way допускает это)",
         "projection \"" + text +
-            "\" has no inverse: lines cannot be brought back from it (--one-way allows that)"));
+            "\" has no inverse: lines cannot be brought back from it (--one-way allows that)");
 }
 
 reprojected_line reproject(section_line& line, const transformation& way) {

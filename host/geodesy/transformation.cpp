@@ -101,8 +101,8 @@ std::shared_ptr<const transformation> transformation::prepare(std::string_view s
     if (pipeline) made->pipeline_.reset(proj_normalize_for_visualization(proj_context(), pipeline.get()));
     if (!made->pipeline_) {
         const std::string pair = '"' + made->source_->text + "\" → \"" + made->target_->text + '"';
-        throw std::invalid_argument(std::string(in_language("нет пути ", "no transformation ")) + pair +
-                                    " (" + take_proj_complaint() + ')');
+        throw std::invalid_argument(words("нет пути ", "no transformation ") + pair + " (" +
+                                    take_proj_complaint() + ')');
     }
     return made;
 }

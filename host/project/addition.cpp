@@ -11,8 +11,7 @@ namespace {
 constexpr int first_value = 5;  // the parameter after the store's own four
 
 [[noreturn]] void cannot_add(const project& to, const sqlite::error& e) {
-    refuse(to.path(),
-           std::string(in_language("сцены не добавлены: ", "scenes cannot be added: ")) + explain(e));
+    refuse(to.path(), words("сцены не добавлены: ", "scenes cannot be added: ") + explain(e));
 }
 
 }  // namespace

@@ -54,13 +54,11 @@ struct geometry_type {
 std::string name_of_type(std::uint32_t code) {
     constexpr std::array names{"Geometry",   "Point",           "LineString",   "Polygon",
                                "MultiPoint", "MultiLineString", "MultiPolygon", "GeometryCollection"};
-    return code < names.size()
-               ? names[code]
-               : std::string(in_language("типа ", "geometry of type ")) + std::to_string(code);
+    return code < names.size() ? names[code] : words("типа ", "geometry of type ") + std::to_string(code);
 }
 
 [[noreturn]] void refuse(std::string_view russian, std::string_view english) {
-    throw blob_error(std::string(in_language(russian, english)));
+    throw blob_error(words(russian, english));
 }
 
 vertex_block open_blob(std::span<const std::byte> blob) try {
@@ -83,8 +81,8 @@ vertex_block open_blob(std::span<const std::byte> blob) try {
     const std::endian order = order_mark == 1 ? std::endian::little : std::endian::big;
     const geometry_type type(view.read<std::uint32_t>(order));
     if (type.plain != wkb_line_string)
-        throw blob_error(std::string(in_language("геометрия ", "geometry is a ")) + name_of_type(type.plain) +
-                         std::string(in_language(", а не LineString", ", not a LineString")));
+        throw blob_error(words("геометрия ", "geometry is a ") + name_of_type(type.plain) +
+                         words(", а не LineString", ", not a LineString"));
     const std::size_t count = view.read<std::uint32_t>(order);
     const std::size_t size = vertex_size(type.heights, type.measures);
     if (view.rest().size() / size < count) throw cut_short();

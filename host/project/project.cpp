@@ -33,8 +33,7 @@ sqlite::connection open_checked(const fs::path& file, open_mode mode) {
 }  // namespace
 
 std::string name_of(const scene& named) {
-    return std::string(in_language("сцена ", "scene ")) + std::to_string(named.index) + " \"" +
-           named.caption + '"';
+    return words("сцена ", "scene ") + std::to_string(named.index) + " \"" + named.caption + '"';
 }
 
 project::project(std::unique_ptr<store> opened) : store_(std::move(opened)) { store_->load(*this); }
@@ -60,7 +59,7 @@ std::unique_ptr<project> project::create(const fs::path& file) {
     } catch (const sqlite::error& e) {
         std::error_code ignored;
         if (made && made->created) fs::remove(file, ignored);
-        refuse(file, std::string(in_language("не удалось создать: ", "cannot be created: ")) + explain(e));
+        refuse(file, words("не удалось создать: ", "cannot be created: ") + explain(e));
     }
 }
 
@@ -111,8 +110,7 @@ section_line project::read_line(const scene& subject) {
     try {
         if (store_->read_blob(subject)) decode_line(store_->buffer, line);
     } catch (const sqlite::error& e) {
-        refuse(subject,
-               std::string(in_language("линия не читается: ", "line cannot be read: ")) + explain(e));
+        refuse(subject, words("линия не читается: ", "line cannot be read: ") + explain(e));
     } catch (const blob_error& e) {
         refuse(subject, e.what());
     }
@@ -131,8 +129,7 @@ std::vector<field_value> project::read_values(const scene& subject) {
             values.push_back(read_value(row, static_cast<int>(i)));
         store_->read_attributes.reset();
     } catch (const sqlite::error& e) {
-        refuse(subject, std::string(in_language("атрибуты не читаются: ", "attributes cannot be read: ")) +
-                            explain(e));
+        refuse(subject, words("атрибуты не читаются: ", "attributes cannot be read: ") + explain(e));
     }
     return values;
 }

@@ -18,7 +18,7 @@ bool holds_scenes(const fs::path& file) try {
     return reason_to_refuse(db).empty();
 } catch (const sqlite::error& e) {
     if (e.primary() == SQLITE_NOTADB) return false;
-    refuse(file, std::string(in_language("неясно, не проект ли это: ", "may be a project: ")) + explain(e));
+    refuse(file, words("неясно, не проект ли это: ", "may be a project: ") + explain(e));
 }
 
 }  // namespace

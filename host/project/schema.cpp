@@ -85,7 +85,7 @@ void create_schema(sqlite::connection& db) {
 
 std::string reason_to_refuse(sqlite::connection& db) {
     const auto say = [](std::string_view russian, std::string_view english) {
-        return std::string(in_language(russian, english));
+        return words(russian, english);
     };
     constexpr auto geopackage = "1196444487";  // "GPKG"
     if (db.ask("PRAGMA application_id") != geopackage) return say("не GeoPackage", "is no GeoPackage");

@@ -16,7 +16,7 @@ constexpr auto log_settings = "PRAGMA synchronous=NORMAL; PRAGMA wal_autocheckpo
 
 std::string explain(const sqlite::error& e) {
     const auto say = [](std::string_view russian, std::string_view english) {
-        return std::string(in_language(russian, english));
+        return words(russian, english);
     };
     if (e.code == SQLITE_READONLY_ROLLBACK)
         return say("остался посреди изменения; открытие для записи отменит его",
@@ -150,8 +150,7 @@ void project::store::write(scene& subject, const section_line* line, const std::
     } catch (const blob_error& e) {
         refuse(subject, e.what());
     } catch (const sqlite::error& e) {
-        refuse(subject,
-               std::string(in_language("не удалось сохранить: ", "cannot be stored: ")) + explain(e));
+        refuse(subject, words("не удалось сохранить: ", "cannot be stored: ") + explain(e));
     }
     runs.noted();
     layers.withdrawn();

@@ -18,8 +18,7 @@ struct returned_scene {
 
 [[noreturn]] void cannot_undo(const project& of, const sqlite::error& e) {
     refuse(of.path(),
-           std::string(in_language("сцены не возвращены к прежнему виду: ", "scenes cannot be put back: ")) +
-               explain(e));
+           words("сцены не возвращены к прежнему виду: ", "scenes cannot be put back: ") + explain(e));
 }
 
 }  // namespace
@@ -48,7 +47,7 @@ undone project::store::take_back(const past_run& run, later_changes others) {
     for (const undo_log::record& each : runs.records(run.id)) {
         scene* subject = scene_of_row(each.row);
         if (!subject) {
-            result.gone.push_back(std::string(in_language("сцена \"", "scene \"")) + each.caption + '"');
+            result.gone.push_back(words("сцена \"", "scene \"") + each.caption + '"');
             if (overwrites) runs.drop(each.row, run.id);
             continue;
         }

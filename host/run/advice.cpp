@@ -53,7 +53,7 @@ std::vector<std::string> advise(project& opened, const std::vector<scene_result>
     for (auto& [place, line] : found) said.push_back(std::move(line));
     if (by_source.contains(""))
         for (const std::string& line : warnings_for(target, current_language()))
-            said.push_back(std::string(in_language("целевая проекция: ", "target: ")) + line);
+            said.push_back(words("целевая проекция: ", "target: ") + line);
     return said;
 }
 

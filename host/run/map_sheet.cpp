@@ -48,9 +48,8 @@ map::look look_of(outcome came_to) {
 
 std::string map_text(const record& told) {
     const language wanted = current_language();
-    const std::string destination = told.goal.none()
-                                        ? std::string(in_language("проекция сброшена", "projection reset"))
-                                        : name_of(told.goal.proj4, wanted);
+    const std::string destination =
+        told.goal.none() ? words("проекция сброшена", "projection reset") : name_of(told.goal.proj4, wanted);
     map::sheet sheet{.title = told.wanted.project.stem().string() + " → " + destination,
                      .subtitle = short_description(told.goal.proj4, wanted),
                      .note = {},

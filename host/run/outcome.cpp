@@ -15,12 +15,12 @@ struct outcome_words {
     std::string_view english, russian;
 };
 
-constexpr std::array<outcome_words, 6> words{{{"reprojected", "перепроецировано"},
-                                              {"assigned", "назначена проекция"},
-                                              {"reset", "сброшена проекция"},
-                                              {"unchanged", "без изменений"},
-                                              {"failed", "с ошибкой"},
-                                              {"not attempted", "не обработано"}}};
+constexpr std::array<outcome_words, 6> outcome_names{{{"reprojected", "перепроецировано"},
+                                                      {"assigned", "назначена проекция"},
+                                                      {"reset", "сброшена проекция"},
+                                                      {"unchanged", "без изменений"},
+                                                      {"failed", "с ошибкой"},
+                                                      {"not attempted", "не обработано"}}};
 
 std::optional<scene_failure> failure_of(const scene_update& update) {
     if (update.store_failure) return scene_failure{*update.store_failure, {}};
@@ -38,7 +38,7 @@ outcome outcome_of(const scene_update& update, const std::string& source, const 
 
 }  // namespace
 
-std::string_view name_of(outcome told) { return words[static_cast<std::size_t>(told)].english; }
+std::string_view name_of(outcome told) { return outcome_names[static_cast<std::size_t>(told)].english; }
 
 std::vector<scene_result> before_run(const std::vector<scene*>& scenes) {
     std::vector<scene_result> results;
@@ -76,18 +76,18 @@ std::string failure_line(const scene_result& result) {
     const auto& [reason, vertex] = *result.failure;
     if (!vertex)
         return reason.starts_with(file) ? reason : place + reason;  // the project's own refusals name it
-    return place + std::string(in_language("вершина ", "vertex ")) + std::to_string(vertex->vertex) + " (" +
+    return place + words("вершина ", "vertex ") + std::to_string(vertex->vertex) + " (" +
            number_text(vertex->at.x) + ", " + number_text(vertex->at.y) + "): " + vertex->reason;
 }
 
 std::string summary(const std::vector<scene_result>& results) {
     std::string line;
-    for (std::size_t i = 0; i < words.size(); ++i) {
+    for (std::size_t i = 0; i < outcome_names.size(); ++i) {
         const std::size_t n = count(results, static_cast<outcome>(i));
         if (n == 0) continue;
         const std::string number = std::to_string(n);
-        append_item(line, in_language(std::string(words[i].russian) + ": " + number,
-                                      number + ' ' + std::string(words[i].english)));
+        append_item(line, in_language(std::string(outcome_names[i].russian) + ": " + number,
+                                      number + ' ' + std::string(outcome_names[i].english)));
     }
     std::size_t added = 0;
     for (const scene_result& each : results) added += each.rolled_back ? 0 : each.added_vertices;

@@ -76,9 +76,9 @@ projection_dialog::projection_dialog(const std::filesystem::path& bundle) : host
     for (const char* table : {"pj_ellps.dbf", "pj_datum.dbf", "pj_proj1.dbf", "pj_proj2.dbf"}) {
         const auto file = catalogue_folder() / table;
         if (std::error_code ignored; !std::filesystem::is_regular_file(file, ignored))
-            throw failure(trouble::unreadable,
-                          file.string() + std::string(in_language(": нет каталога проекций",
-                                                                  ": the projection catalogue is missing")));
+            throw failure(
+                trouble::unreadable,
+                file.string() + words(": нет каталога проекций", ": the projection catalogue is missing"));
     }
 }
 
@@ -107,8 +107,7 @@ void projection_dialog::choose_crs(dialog_hands& hands, const std::string& ident
         });
         if (!known)
             throw failure(trouble::refused,
-                          '"' + identifier + '"' +
-                              std::string(in_language(": такой проекции нет", ": no such projection")));
+                          '"' + identifier + '"' + words(": такой проекции нет", ": no such projection"));
         asked.press(button_role::accept);
     });
     hands.click(plug_in_text::epsg());
@@ -117,9 +116,8 @@ void projection_dialog::choose_crs(dialog_hands& hands, const std::string& ident
 void projection_dialog::take_favourite(dialog_hands& hands, std::uint32_t number) {
     shell::table_model& favourites = *hands.only(node_kind::outline).rows();
     if (number == 0 || number > favourites.row_count())
-        throw failure(trouble::refused, std::string(in_language("нет избранной проекции ", "no favourite ")) +
-                                            std::to_string(number) +
-                                            std::string(in_language(", всего их ", " among the ")) +
+        throw failure(trouble::refused, words("нет избранной проекции ", "no favourite ") +
+                                            std::to_string(number) + words(", всего их ", " among the ") +
                                             std::to_string(favourites.row_count()));
     favourites.make_current(number - 1);
 }

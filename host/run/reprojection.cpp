@@ -12,10 +12,9 @@ std::vector<scene*> scenes_of(const order& wanted, project& opened) {
     auto scenes = wanted.scenes ? select_scenes(opened, *wanted.scenes) : listed_scenes(opened);
     if (!wanted.sources.empty()) scenes = scenes_in(scenes, wanted.sources);
     if (scenes.empty())
-        throw failure(
-            trouble::refused,
-            wanted.project.string() + std::string(in_language(": нет сцен разрезов для перепроецирования",
-                                                              ": no profile scenes to reproject")));
+        throw failure(trouble::refused,
+                      wanted.project.string() + words(": нет сцен разрезов для перепроецирования",
+                                                      ": no profile scenes to reproject"));
     return scenes;
 }
 
