@@ -1,18 +1,21 @@
 #pragma once
 /// Files of a test: a folder of its own, and what a file holds to the byte.
 
-#include <stdlib.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 /// Made empty; gone afterwards with all that is in it.
 class scratch_folder {
 public:
-    scratch_folder() : path_((std::filesystem::temp_directory_path() / "ox-test-XXXXXX").string()) {
-        if (!mkdtemp(path_.data())) throw std::filesystem::filesystem_error("mkdtemp", {});
+    scratch_folder() {
+        std::random_device number;
+        const std::filesystem::path all = std::filesystem::temp_directory_path();
+        do {
+            path_ = (all / ("ox-test-" + std::to_string(number()))).string();
+        } while (!std::filesystem::create_directory(path_));  // one that is there belongs to another process
     }
     ~scratch_folder() { std::filesystem::remove_all(path_); }
     scratch_folder(const scratch_folder&) = delete;

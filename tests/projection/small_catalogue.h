@@ -11,6 +11,7 @@
 #include "support/catalogue_columns.h"
 #include "support/dbf.h"
 #include "testing/host_double/host_double.h"
+#include "testing/scratch_folder.h"
 
 namespace ox {
 
@@ -50,16 +51,10 @@ class Dialog : public testing::Test {
 protected:
     void SetUp() override {
         host_double::reset();
-        folder_ = fs::temp_directory_path() /
-                  ("ox_dialog_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                   std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-        fs::create_directories(folder_ / "prj_def");
-        host().executable = (folder_ / "host").wstring();
+        fs::create_directory(folder_ / "prj_def");
+        host().executable = fs::path(folder_ / "host").wstring();
     }
-    void TearDown() override {
-        fs::remove_all(folder_);
-        EXPECT_EQ(host().alive(), 0);
-    }
+    void TearDown() override { EXPECT_EQ(host().alive(), 0); }
     void write_catalogue() const {
         const fs::path tables = folder_ / "prj_def";
         write_table(tables / "pj_ellps.dbf", ellps_columns,
@@ -78,7 +73,7 @@ protected:
                     {zone(7, 39), zone(8, 45), utm(40, false, "UTM North"), utm(40, true, "UTM South")});
     }
 
-    fs::path folder_;
+    scratch_folder folder_;
 };
 
 }  // namespace ox
