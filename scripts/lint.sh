@@ -65,7 +65,7 @@ tidy() {
 
 step "Layout of the sources" layout
 step "Names of headers" names
-step "Configuring $build" cmake --preset lint -DBUILD_TESTING=ON
+step "Configuring $build" cmake --preset lint -DOX_DESKTOP=ON -DBUILD_TESTING=ON
 step "Compiling with clang, each header alone" cmake --build --preset lint --parallel "$(nproc)" \
     --target "$([[ -n $all ]] && echo all || echo product)"
 step "clang-tidy" tidy

@@ -1,19 +1,25 @@
 #!/usr/bin/env bash
-# Installs what is missing for building (and, with --tests, for testing) on Debian 12.
+# Installs what is missing for building, on Debian 12; with --window for building the window too, with --tests for
+# testing everything.
 source "$(dirname "${BASH_SOURCE[0]}")/step.sh"
 
 packages=(
     build-essential cmake ninja-build pkg-config
     libproj-dev proj-bin proj-data libsqlite3-dev libgdal-dev gdal-bin libcli11-dev nlohmann-json3-dev
 )
+window_packages=(qt6-base-dev libqt6svg6 libgl-dev fonts-dejavu-core)
 test_packages=(
     clang clang-format clang-tidy git libgtest-dev libgmock-dev googletest locales g++-mingw-w64-x86-64 wine64
 )
 test_locales=("ru_RU UTF-8" "ru_RU CP1251" "de_DE UTF-8")
 
-[[ $# -eq 0 || ($# -eq 1 && $1 == --tests) ]] || { echo "usage: setup.sh [--tests]" >&2; exit 64; }
-tests=${1:-}
-[[ -z $tests ]] || packages+=("${test_packages[@]}")
+tests=
+case "$*" in
+"") ;;
+--window) packages+=("${window_packages[@]}") ;;
+--tests) tests=yes packages+=("${window_packages[@]}" "${test_packages[@]}") ;;
+*) echo "usage: setup.sh [--window | --tests]" >&2; exit 64 ;;
+esac
 
 as_root() { if ((EUID == 0)); then "$@"; else sudo "$@"; fi; }
 installed() { dpkg -s "$1" 2>/dev/null | grep -q '^Status: install ok installed'; }
