@@ -7,7 +7,7 @@ packages=(
     build-essential cmake ninja-build pkg-config
     libproj-dev proj-bin proj-data libsqlite3-dev libgdal-dev gdal-bin libcli11-dev nlohmann-json3-dev
 )
-window_packages=(qt6-base-dev libqt6svg6 libgl-dev fonts-dejavu-core)
+window_packages=(qt6-base-dev libqt6svg6 qt6-translations-l10n libgl-dev fonts-dejavu-core)
 test_packages=(
     clang clang-format clang-tidy git libgtest-dev libgmock-dev googletest locales g++-mingw-w64-x86-64 wine64
 )
