@@ -3,8 +3,8 @@
 
 #include "app/command.h"
 #include "headless/dialog_hands.h"
-#include "run/outcome.h"
 #include "run/request.h"
+#include "run/utility_run.h"
 #include "session/interruption.h"
 #include "shell/bundle_host.h"
 
@@ -35,21 +35,10 @@ public:
 
 exit_code run_on(project* opened, shell::bundle_host& host, const utilities_options& options) {
     messages::instance().use(std::make_unique<console_messages>(console::standard(), options.console));
-    messages::instance().forget();
-    journal::instance().clear();
-    auto results = run::before_run(opened ? run::listed_scenes(*opened) : std::vector<scene*>{});
-    {
-        const served_project serving(opened);
-        if (opened) opened->begin_run({options.run, {}}, run_records::kept);
-        host.run(options.run);
-    }
-    read_journal(results, {}, 0);
+    const auto results = run::run_utility(opened, host, options.run);
     for (const run::scene_result& each : results)
         if (each.failure) std::cerr << failure_line(each) << '\n';
-    if (opened) {
-        opened->end_run();
-        opened->close();
-    }
+    if (opened) opened->close();
     if (count(results, run::outcome::failed)) return exit_code::scene_failed;
     if (messages::instance().declined()) return exit_code::answered_no;
     const auto& shown = messages::instance().shown();

@@ -157,13 +157,16 @@ private:
 project* current_project();
 void set_current_project(project* opened);
 
-/// Has a project served for as long as it lives.
+/// Has a project served for as long as it lives, and then again what was served before.
 class served_project {
 public:
-    explicit served_project(project* opened) { set_current_project(opened); }
-    ~served_project() { set_current_project(nullptr); }
+    explicit served_project(project* opened) : before_(current_project()) { set_current_project(opened); }
+    ~served_project() { set_current_project(before_); }
     served_project(const served_project&) = delete;
     served_project& operator=(const served_project&) = delete;
+
+private:
+    project* before_;
 };
 
 }  // namespace oxhost

@@ -57,6 +57,12 @@ std::string bundle_host::caption(const offered_utility& offered) const {
     return read_utf8<&ox::utility_impl::visit_caption>(offered.utility);
 }
 
+picture bundle_host::icon(const offered_utility& offered) const {
+    return read_picture([&](ox::custom_pointer visitor) {
+        ox::call<&ox::utility_impl::visit_icon>(offered.utility, visitor);
+    });
+}
+
 void bundle_host::run(std::string_view utility_id) {
     const auto found = std::ranges::find(utilities(), utility_id, &offered_utility::id);
     if (found == utilities().end())

@@ -12,6 +12,7 @@
 #include "shell/bundle.h"
 #include "shell/dialogs.h"
 #include "shell/service_registry.h"
+#include "shell/values.h"
 
 namespace oxhost::shell {
 
@@ -50,6 +51,7 @@ public:
     /// Keys of the bundle's factories, in its order.
     const std::vector<std::string>& factory_keys() const { return factory_keys_; }
     std::string caption(const offered_utility& offered) const;
+    picture icon(const offered_utility& offered) const;  ///< empty without one
 
     /// Throws bundle_error when the bundle has no such utility, and what the user threw.
     void run(std::string_view utility_id);
