@@ -40,6 +40,7 @@ using action = std::function<exit_code()>;
 /// Each adds its subcommand; the one that the user names sets `chosen`.
 void add_import(CLI::App& app, action& chosen);
 void add_list(CLI::App& app, action& chosen);
+void add_open(CLI::App& app, action& chosen);
 void add_reproject(CLI::App& app, action& chosen);
 void add_export(CLI::App& app, action& chosen);
 void add_describe(CLI::App& app, action& chosen);

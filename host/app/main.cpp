@@ -66,8 +66,8 @@ int run(int argc, char** argv) {
     app.require_subcommand(0, 1);
     add_language(app);
     action chosen;
-    for (const auto add : {add_import, add_list, add_reproject, add_export, add_describe, add_project,
-                           add_favourites, add_guess, add_catalogue, add_undo, add_utilities})
+    for (const auto add : {add_open, add_import, add_list, add_reproject, add_export, add_describe,
+                           add_project, add_favourites, add_guess, add_catalogue, add_undo, add_utilities})
         add(app, chosen);
     try {
         app.parse(argc, argv);

@@ -30,6 +30,27 @@ TEST(Utilities, RunAsTheyStandOnAProject) {
     EXPECT_TRUE(box.bytes("p.gpkg") == project);
 }
 
+/// A copy of the program that has no window beside it, and one that has: here a script, which tells how it
+/// was called.
+TEST(Open, StartsTheProgramBesideIt) {
+    const sandbox box;
+    const fs::path program = OXHOST_PROGRAM;
+    fs::copy_file(program, box.path("alone"));
+    box.write("-p.gpkg", "");
+    const std::string start = "LD_LIBRARY_PATH='" + program.parent_path().string() + "' ./alone open ";
+    const auto exit_of = [&](const std::string& project) {
+        return box.oxhost({}, "en", start + project + " >.out 2>.error; exit $?;").code;
+    };
+    EXPECT_EQ(exit_of("-- -p.gpkg"), 66);
+    EXPECT_NE(box.bytes(".error").find("oxhost-window: there is no window"), std::string::npos);
+
+    box.write("oxhost-window", "#!/bin/sh\necho \"$@\"\nexit 7\n");
+    fs::permissions(box.path("oxhost-window"), fs::perms::owner_all);
+    EXPECT_EQ(exit_of("-- -p.gpkg"), 7);
+    EXPECT_EQ(box.bytes(".out"), box.path("-p.gpkg").string() + '\n');
+    EXPECT_EQ(exit_of("nowhere.gpkg"), 66);
+}
+
 /// An exception that ends at a border of the shell, of a host module and of a bundle: each is one line with
 /// --verbose, wherever that stands, and silence without it.
 TEST(Faults, AreToldWhenAskedFor) {
