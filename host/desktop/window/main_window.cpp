@@ -57,8 +57,7 @@ void main_window::lay_out() {
     views->setObjectName("views");
     scenes_ = new scene_table(document_, views);
     map_ = new map_view(document_, views);
-    views->setStretchFactor(0, 2);
-    views->setStretchFactor(1, 3);
+    views->setSizes({480, 720});
     column->addWidget(views, 1);
     setCentralWidget(middle);
 
@@ -67,6 +66,7 @@ void main_window::lay_out() {
     messages_ = new message_area(document_, message_dock_);
     message_dock_->setWidget(messages_);
     addDockWidget(Qt::BottomDockWidgetArea, message_dock_);
+    resizeDocks({message_dock_}, {130}, Qt::Vertical);
 
     state_ = new QLabel(this);
     pointer_ = new QLabel(this);
