@@ -132,15 +132,27 @@ private:
     std::string area_, coast_;
 };
 
+const std::vector<ring>& land_rings() {
+    static const std::vector<ring> land = decoded();
+    return land;
+}
+
 }  // namespace
 
+std::vector<polyline> land_within(const geographic_extent& box) {
+    std::vector<polyline> rings;
+    for (const ring& each : land_rings())
+        if (!apart(each.bounds, box))
+            if (polyline part = cut_to(each.places, box); part.size() > 2) rings.push_back(std::move(part));
+    return rings;
+}
+
 std::string land_in(const frame& shown) {
-    static const std::vector<ring> land = decoded();
     outline drawn(shown);
     const geographic_extent& whole = shown.shown();
     for (double turn = 360 * std::floor((whole.min_x + 180) / 360); turn - 180 < whole.max_x; turn += 360) {
         const geographic_extent box{whole.min_x - turn, whole.min_y, whole.max_x - turn, whole.max_y};
-        for (const ring& each : land)
+        for (const ring& each : land_rings())
             if (!apart(each.bounds, box)) drawn.add(cut_to(each.places, box), box, turn);
     }
     return drawn.elements();

@@ -48,8 +48,11 @@ public:
             ADD_FAILURE() << "no button " << caption.toStdString();
         });
     }
+    /// One look at a time: one that was left over from an earlier window is stale.
     void begin() {
-        QTimer::singleShot(20, qApp, [this] { next(); });
+        QTimer::singleShot(20, &alive_, [this, mine = ++looks_] {
+            if (mine == looks_) next();
+        });
     }
     bool is_done() const { return steps_.empty(); }
 
@@ -68,6 +71,7 @@ private:
         step(top);
     }
     std::deque<std::function<void(QWidget*)>> steps_;
+    int looks_ = 0;
     QObject alive_;
 };
 

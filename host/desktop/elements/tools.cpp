@@ -47,7 +47,6 @@ void add_tools(shell::node& sets, Menu& menu, const Act& act) {
 
 QWidget* draw_toolbar(shell::node& toolbar, QWidget* parent) {
     auto* drawn = new QToolBar(parent);
-    drawn->setFocusPolicy(Qt::TabFocus);
     const auto fill = [&toolbar, drawn] {
         drawn->clear();
         add_tools(toolbar, *drawn, [](shell::node& tool) { tool.click(); });
