@@ -1,5 +1,7 @@
 #include "desktop/dialogs/utilities.h"
 
+#include <QSettings>
+
 #include "desktop/elements/draw.h"
 #include "desktop/text.h"
 #include "run/plug_in.h"
@@ -10,21 +12,28 @@ namespace oxhost::desktop {
 
 namespace {
 
+constexpr auto bundles_key = "bundles";
+
 /// Beside the program, as its catalogue is.
 std::filesystem::path bundle_folder() { return oxhost::run::catalogue_folder().parent_path(); }
 
 }  // namespace
 
 utilities::utilities(document& shown, window_user& user) : document_(shown) {
+    load(bundle_folder() / oxhost::run::plug_in_text::bundle_file, user);
+    const auto further = QSettings().value(bundles_key).toStringList();
+    for (const QString& file : further) load(to_path(file), user);
+}
+
+void utilities::load(const std::filesystem::path& file, window_user& user) {
     try {
-        bundles_.push_back(std::make_unique<shell::bundle_host>(
-            bundle_folder() / oxhost::run::plug_in_text::bundle_file, user));
+        bundles_.push_back(std::make_unique<shell::bundle_host>(file, user));
         for (const auto& each : bundles_.back()->utilities())
             entries_.push_back({bundles_.back().get(), each.id});
     } catch (const shell::bundle_error& missing) {
         note told;
         told.kind = message_kind::error;
-        told.text = to_qt(std::string_view(missing.what()));
+        told.text = to_qt(missing.what());
         document_.say(told);
     }
 }

@@ -18,8 +18,8 @@ namespace oxhost::desktop {
 class utilities final : public QObject {
     Q_OBJECT
 public:
-    /// Loads the bundles that stand beside the program; one that cannot be loaded is told in the document's
-    /// notes. Document and user outlive it.
+    /// Loads the bundle beside the program and those of the setting "bundles", a list of files; one that
+    /// cannot be loaded is told in the document's notes. Document and user outlive it.
     utilities(document& shown, window_user& user);
 
     struct offer {
@@ -41,6 +41,7 @@ private:
         shell::bundle_host* bundle;
         std::string id;
     };
+    void load(const std::filesystem::path& file, window_user& user);
     void tell(const std::vector<oxhost::run::scene_result>& results);
 
     document& document_;

@@ -1,6 +1,8 @@
 #pragma once
 /// Messages, questions and progress as windows over the one on top. All that is said is kept in the message
-/// area too.
+/// area too. The same text said again in one piece of work has one window.
+
+#include <QTimer>
 
 #include "desktop/dialogs/window_user.h"
 #include "desktop/document.h"
@@ -11,7 +13,7 @@ namespace oxhost::desktop {
 class window_messages final : public message_policy {
 public:
     /// Both outlive it.
-    window_messages(document& shown, const window_user& user) : document_(shown), user_(user) {}
+    window_messages(document& shown, const window_user& user);
 
     void show(message_kind kind, const std::string& text) override;
     /// "No" is what Enter answers: the questions are about data.
@@ -19,10 +21,14 @@ public:
     std::unique_ptr<progress_display> open_progress() override;
 
 private:
+    class progress;
     void note_down(message_kind kind, const std::string& text);
 
     document& document_;
     const window_user& user_;
+    std::string last_;          ///< shown in a window by the piece of work that is going on
+    QTimer work_ended_;         ///< fires when the person can act again
+    std::size_t progress_ = 0;  ///< indicators on display, which let timers through in the midst of work
 };
 
 }  // namespace oxhost::desktop

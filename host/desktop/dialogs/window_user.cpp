@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSettings>
 
 #include "desktop/dialogs/bundle_dialog.h"
@@ -41,6 +42,12 @@ std::optional<std::filesystem::path> window_user::choose_file(const shell::file_
     window.setAcceptMode(question.to_save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     window.setFileMode(question.to_save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     window.setOption(QFileDialog::DontUseNativeDialog);
+    // A name without an extension gets that of the chosen filter.
+    const auto complete = [&window](const QString& chosen) {
+        window.setDefaultSuffix(chosen.section("(*.", 1).section(QRegularExpression("[ )]"), 0, 0));
+    };
+    QObject::connect(&window, &QFileDialog::filterSelected, &window, complete);
+    complete(window.selectedNameFilter());
     if (!window.exec() || window.selectedFiles().isEmpty()) return {};
     const QString file = window.selectedFiles().front();
     QSettings().setValue(folder_key, QFileInfo(file).absolutePath());
