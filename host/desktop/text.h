@@ -13,7 +13,9 @@ namespace oxhost::desktop {
 inline QString to_qt(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
-inline QString name_of_file(const std::filesystem::path& file) { return QString::fromStdString(file.string()); }
+inline QString name_of_file(const std::filesystem::path& file) {
+    return QString::fromStdString(file.string());
+}
 inline std::filesystem::path to_path(const QString& file) { return file.toStdString(); }
 
 /// The one of two texts that the user reads now; read it again at QEvent::LanguageChange.
