@@ -30,6 +30,13 @@ sqlite::connection open_checked(const fs::path& file, open_mode mode) {
     return db;
 }
 
+sqlite::connection private_copy(sqlite::connection& source) {
+    sqlite::connection copy({}, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    copy.copy_from(source);
+    copy.run("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
+    return copy;
+}
+
 }  // namespace
 
 std::string name_of(const scene& named) {
@@ -79,14 +86,24 @@ std::unique_ptr<project> project::open(const fs::path& file, open_mode mode) {
             opened->lock();
             check(opened->db, file);
         } else if (mode == open_mode::scratch) {
-            sqlite::connection copy({}, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-            copy.copy_from(opened->db);
-            copy.run("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
-            opened->db = std::move(copy);
+            opened->db = private_copy(opened->db);
         }
         return std::unique_ptr<project>(new project(std::move(opened)));
     } catch (const sqlite::error& e) {
         refuse(file, explain(e));
+    }
+}
+
+std::unique_ptr<project> project::scratch_copy() {
+    if (!store_->db.get()) refuse(path(), in_language("закрыт", "is closed"));
+    auto copied = std::make_unique<store>();
+    copied->file = path();
+    copied->mode = open_mode::scratch;
+    try {
+        copied->db = private_copy(store_->db);
+        return std::unique_ptr<project>(new project(std::move(copied)));
+    } catch (const sqlite::error& e) {
+        refuse(path(), explain(e));
     }
 }
 

@@ -83,6 +83,10 @@ public:
     /// GeoPackage or no project, damaged ones, projects in use elsewhere.
     static std::unique_ptr<project> open(const std::filesystem::path& file, open_mode mode);
 
+    /// A private copy of this project as its file has it now, as `scratch` opens one; also of one that is
+    /// open for writing, which nobody else could read.
+    std::unique_ptr<project> scratch_copy();
+
     ~project();  ///< closes; a failure to fold the log back loses nothing and is not reported
     project(const project&) = delete;
     project& operator=(const project&) = delete;

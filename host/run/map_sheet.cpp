@@ -8,6 +8,7 @@
 #include "geodesy/measure.h"
 #include "geodesy/proj_context.h"
 #include "map/section_map.h"
+#include "run/judgement.h"
 #include "run/report.h"
 
 namespace oxhost::run {
@@ -22,12 +23,6 @@ auto measured(const std::string& proj4, Measure&& measure) -> decltype(measure()
     } catch (const std::invalid_argument&) {
     }
     return std::nullopt;
-}
-
-/// Where a line lies, if that can be told.
-std::optional<polyline> placed(const polyline& line, const std::string& proj4) {
-    if (line.empty()) return std::nullopt;
-    return measured(proj4, [&] { return to_wgs84(line, proj4); });
 }
 
 /// "WGS 84 / UTM zone 40N (EPSG:32640)", or what the text says where it has no name.
@@ -70,9 +65,7 @@ std::string map_text(const record& told) {
         if (result.came_to != outcome::failed)
             line.scale_error = measured(proj4, [&] { return length_distortion(after, proj4); });
         if (!reprojected) continue;
-        const auto shift =
-            measured(proj4, [&] { return shift_of_numbers(before, result.source, after, proj4); });
-        if (shift) line.shift = {shift->metres, shift->azimuth};
+        if (const auto shift = shift_on_map(told, i)) line.shift = {shift->metres, shift->azimuth};
     }
     return map::section_map(std::move(sheet));
 }

@@ -1,12 +1,9 @@
 #include "run/report.h"
 
 #include <nlohmann/json.hpp>
-#include <stdexcept>
 
-#include "geodesy/measure.h"
-#include "geodesy/reprojector.h"
 #include "geodesy/transformation.h"
-#include "geodesy/way_back.h"
+#include "run/judgement.h"
 
 namespace oxhost::run {
 
@@ -21,63 +18,6 @@ json or_null(const std::optional<T>& value) {
 
 json or_null(const std::string& text) { return text.empty() ? json() : json(text); }
 
-/// A text that PROJ refuses, or an empty one, measures nothing.
-template <class Measure>
-auto measured(Measure&& measure) -> decltype(measure()) {
-    try {
-        return measure();
-    } catch (const std::invalid_argument&) {
-        return std::nullopt;
-    }
-}
-
-using line_measure = std::optional<double> (*)(const polyline& line, std::string_view proj4);
-
-json measured(line_measure measure, const polyline& line, const std::string& proj4) {
-    if (proj4.empty()) return {};
-    return or_null(measured([&] { return measure(line, proj4); }));
-}
-
-json percent(const json& share) { return share.is_null() ? share : json(100 * share.get<double>()); }
-
-/// What only a line that was reprojected has.
-struct judgement {
-    std::optional<line_shift> shift;
-    std::optional<double> deviation;
-};
-
-judgement judge(const scene_result& result, const record& told, const polyline& before,
-                const polyline& after) {
-    judgement found;
-    if (result.came_to != outcome::reprojected) return found;
-    const auto way = transformation::between(result.source, told.goal.proj4);
-    section_line line(before);
-    if (result.added_vertices) densify(line, *way, told.wanted.rules.densify);
-    if (line.xy.size() != after.size()) return found;
-    polyline tested_before, tested_after;
-    for (const std::size_t i : tested_vertices(line.xy)) {
-        tested_before.push_back(line.xy[i]);
-        tested_after.push_back(after[i]);
-    }
-    found.shift = shift_between(tested_before, result.source, tested_after, told.goal.proj4);
-    found.deviation = segment_deviation(line.xy, after, *way);
-    return found;
-}
-
-/// What PROJ did to the line, told by doing it again: where several operations serve a pair of
-/// projections, the place decides.
-json operation_of(const scene_result& result, const polyline& before, const std::string& target) {
-    const auto way = transformation::between(result.source, target);
-    polyline copy = before.empty() ? polyline() : polyline{before.back()};
-    way->apply(copy);
-    const operation_info info = way->operation();
-    return {{"name", or_null(info.name)},
-            {"definition", or_null(info.definition)},
-            {"accuracy_m", or_null(info.accuracy)},
-            {"source_shift", or_null(info.source_shift)},
-            {"target_shift", or_null(info.target_shift)}};
-}
-
 json failure_of(const scene_result& result) {
     if (!result.failure) return {};
     json told{{"reason", result.failure->reason}, {"vertex", nullptr}, {"x", nullptr}, {"y", nullptr}};
@@ -89,34 +29,38 @@ json failure_of(const scene_result& result) {
     return told;
 }
 
+json operation_json(const std::optional<operation_info>& info) {
+    if (!info) return {};
+    return {{"name", or_null(info->name)},
+            {"definition", or_null(info->definition)},
+            {"accuracy_m", or_null(info->accuracy)},
+            {"source_shift", or_null(info->source_shift)},
+            {"target_shift", or_null(info->target_shift)}};
+}
+
 json scene_json(const record& told, std::size_t i) {
     const scene_result& result = told.results[i];
-    const scene& subject = *result.subject;
-    const polyline& before = told.before[i];
-    const polyline& after = told.after[i];
-    const bool reprojected = result.came_to == outcome::reprojected;
-    const auto [shift, deviation] = judge(result, told, before, after);
-    const bool plane = reprojected && !crs_of(subject.proj4)->geographic;
-    return {
-        {"index", subject.index},
-        {"caption", subject.caption},
-        {"source_proj4", result.source},
-        {"target_proj4", told.goal.proj4},
-        {"outcome", name_of(result.came_to)},
-        {"rolled_back", result.rolled_back},
-        {"vertices", before.size()},
-        {"added_vertices", result.added_vertices},
-        {"length_before_m", measured(geodesic_length, before, result.source)},
-        {"length_after_m", measured(geodesic_length, after, subject.proj4)},
-        {"planar_length_before_m", measured(planar_length, before, result.source)},
-        {"planar_length_after_m", measured(planar_length, after, subject.proj4)},
-        {"scale_error_percent", plane ? percent(measured(length_distortion, after, subject.proj4)) : json()},
-        {"segment_deviation_m", or_null(deviation)},
-        {"return_error_m", or_null(result.return_error)},
-        {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
-        {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
-        {"operation", reprojected ? operation_of(result, before, told.goal.proj4) : json()},
-        {"failure", failure_of(result)}};
+    const judgement judged = judge(told, i);
+    const auto& shift = judged.shift;
+    return {{"index", result.subject->index},
+            {"caption", result.subject->caption},
+            {"source_proj4", result.source},
+            {"target_proj4", told.goal.proj4},
+            {"outcome", name_of(result.came_to)},
+            {"rolled_back", result.rolled_back},
+            {"vertices", told.before[i].size()},
+            {"added_vertices", result.added_vertices},
+            {"length_before_m", or_null(judged.length_before)},
+            {"length_after_m", or_null(judged.length_after)},
+            {"planar_length_before_m", or_null(judged.planar_before)},
+            {"planar_length_after_m", or_null(judged.planar_after)},
+            {"scale_error_percent", or_null(judged.scale_error_percent)},
+            {"segment_deviation_m", or_null(judged.segment_deviation)},
+            {"return_error_m", or_null(result.return_error)},
+            {"largest_ground_shift_m", shift ? json(shift->ground) : json()},
+            {"largest_datum_shift_m", shift ? json(shift->datum) : json()},
+            {"operation", operation_json(judged.operation)},
+            {"failure", failure_of(result)}};
 }
 
 std::string_view name_of(on_error policy) {

@@ -54,10 +54,12 @@ std::vector<scene*> not_attempted(const std::vector<scene_result>& results) {
 
 }  // namespace
 
-reprojection::reprojection(order wanted)
+reprojection::reprojection(order wanted, std::unique_ptr<project> opened)
     : order_(std::move(wanted)),
       goal_(goal_of(order_)),
-      project_(open_project(order_.project, order_.dry_run ? open_mode::scratch : open_mode::read_write)),
+      project_(
+          opened ? std::move(opened)
+                 : open_project(order_.project, order_.dry_run ? open_mode::scratch : open_mode::read_write)),
       scenes_(scenes_of(order_, *project_)),
       utility_(order_.bundle),
       results_(before_run(scenes_)),

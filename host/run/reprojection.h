@@ -61,8 +61,9 @@ std::optional<std::string> advise_on_lengths(project& opened, const std::vector<
 
 class reprojection {
 public:
-    /// Nothing is changed yet. Throws failure, project_error, bundle_error.
-    explicit reprojection(order wanted);
+    /// Nothing is changed yet. Works on `opened`, a scratch copy, where one is given: the order's project is
+    /// then only a name. Throws failure, project_error, bundle_error.
+    explicit reprojection(order wanted, std::unique_ptr<project> opened = {});
 
     /// As `advise` gives them.
     const std::vector<std::string>& warnings() const { return warnings_; }
