@@ -1,6 +1,5 @@
 #include "desktop/map/projected_lines.h"
 
-#include <QElapsedTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -59,6 +58,9 @@ void projected_lines::project_more() {
         ++done_;
     }
     if (complete()) idle_.stop();
+    if (!complete() && told_.isValid() && told_.elapsed() < 250)
+        return;  // drawing them costs more than a piece
+    told_.start();
     Q_EMIT grown();
 }
 
