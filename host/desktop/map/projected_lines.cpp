@@ -42,7 +42,7 @@ polyline projected_lines::placed(const scene& subject) {
 void projected_lines::project_more() {
     QElapsedTimer since;
     since.start();
-    if (document_.changing()) return;
+    if (document_.changing()) return idle_.stop();  // all is read anew afterwards
     while (!complete() && since.elapsed() < 15) {
         const scene& subject = *document_.opened()->at(done_);
         line& made = lines_[done_];
