@@ -117,10 +117,16 @@ void map_ground::draw_graticule(QPainter& painter, const map_scale& scale, const
         }
     };
     const double step_x = step_of(degrees.width()), step_y = step_of(degrees.height());
-    for (double x = std::ceil(degrees.min_x / step_x) * step_x; x <= degrees.max_x; x += step_x)
+    const auto first = [](double from, double step) { return static_cast<long>(std::ceil(from / step)); };
+    const auto last = [](double to, double step) { return static_cast<long>(std::floor(to / step)); };
+    for (long i = first(degrees.min_x, step_x); i <= last(degrees.max_x, step_x); ++i) {
+        const double x = static_cast<double>(i) * step_x;
         draw({x, degrees.min_y}, {x, degrees.max_y}, degrees_text(x, 'E', 'W'), true);
-    for (double y = std::ceil(degrees.min_y / step_y) * step_y; y <= degrees.max_y; y += step_y)
+    }
+    for (long i = first(degrees.min_y, step_y); i <= last(degrees.max_y, step_y); ++i) {
+        const double y = static_cast<double>(i) * step_y;
         draw({degrees.min_x, y}, {degrees.max_x, y}, degrees_text(y, 'N', 'S'), false);
+    }
 }
 
 /// Right for the middle of the widget.

@@ -1,6 +1,5 @@
 #include "desktop/map/projected_lines.h"
 
-#include <QElapsedTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -43,7 +42,7 @@ polyline projected_lines::placed(const scene& subject) {
 void projected_lines::project_more() {
     QElapsedTimer since;
     since.start();
-    if (document_.changing()) return;
+    if (document_.changing()) return idle_.stop();  // all is read anew afterwards
     while (!complete() && since.elapsed() < 15) {
         const scene& subject = *document_.opened()->at(done_);
         line& made = lines_[done_];
@@ -59,6 +58,9 @@ void projected_lines::project_more() {
         ++done_;
     }
     if (complete()) idle_.stop();
+    if (!complete() && told_.isValid() && told_.elapsed() < 250)
+        return;  // drawing them costs more than a piece
+    told_.start();
     Q_EMIT grown();
 }
 

@@ -2,6 +2,7 @@
 /// The section lines of a document in the map's system, made piece by piece while the window lives, and
 /// thinned for the scale at which they are drawn. [ui]
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPolygonF>
 #include <QTimer>
@@ -61,6 +62,7 @@ private:
     std::vector<std::size_t> unplaced_;
     std::size_t done_ = 0;
     QTimer idle_;
+    QElapsedTimer told_;  ///< since the views heard of new lines
 };
 
 }  // namespace oxhost::desktop

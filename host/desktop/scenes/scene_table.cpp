@@ -33,7 +33,9 @@ protected:
     }
 
 private:
-    QCollator natural_;
+    // The locale "C" orders by bytes alone.
+    QCollator natural_{
+        QLocale(current_language() == language::russian ? QLocale::Russian : QLocale::English)};
 };
 
 }  // namespace
