@@ -56,10 +56,11 @@ TEST_F(Views, TableSortsNaturallyAndFiltersWhileOneTypes) {
     EXPECT_EQ(captions(), std::vector<std::string>{"Line 10"}) << "by the code of its projection";
     QTest::keyClick(&table.filter(), Qt::Key_Escape);
     EXPECT_EQ(captions().size(), 3u);
-    QTest::qWait(50);
+    const QModelIndex length = table.table().model()->index(1, scene_model::length);
+    const auto metres = [&] { return length.data(scene_model::sort_role).toDouble(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return metres() > 0; })) << "measured while nothing else is to be done";
     // geod +ellps=WGS84 -I: 1 degree of latitude from 57 to 58 north is 111368.786 m
-    EXPECT_NEAR(table.table().model()->index(1, scene_model::length).data(scene_model::sort_role).toDouble(),
-                111368.786, 0.01);
+    EXPECT_NEAR(metres(), 111368.786, 0.01);
 }
 
 TEST_F(Views, SelectTogether) {
