@@ -26,15 +26,6 @@ std::string with_decimals(double value, int decimals) {
     return {digits.data(), end.ptr};
 }
 
-std::string direction_words(double azimuth, language wanted) {
-    static constexpr std::array<std::string_view, 8> russian{"С", "СВ", "В", "ЮВ", "Ю", "ЮЗ", "З", "СЗ"},
-        english{"N", "NE", "E", "SE", "S", "SW", "W", "NW"};
-    const auto& words = wanted == language::russian ? russian : english;
-    const double whole = std::fmod(std::round(azimuth) + 360, 360);
-    return std::string(words[static_cast<std::size_t>(std::lround(whole / 45)) % 8]) + ' ' +
-           number_text(whole) + "°";
-}
-
 struct row_texts {
     std::string metres, direction, error;
 };
@@ -54,6 +45,15 @@ row_texts texts_of(const listed_line& line, language wanted) {
 }
 
 }  // namespace
+
+std::string direction_words(double azimuth, language wanted) {
+    static constexpr std::array<std::string_view, 8> russian{"С", "СВ", "В", "ЮВ", "Ю", "ЮЗ", "З", "СЗ"},
+        english{"N", "NE", "E", "SE", "S", "SW", "W", "NW"};
+    const auto& words = wanted == language::russian ? russian : english;
+    const double whole = std::fmod(std::round(azimuth) + 360, 360);
+    return std::string(words[static_cast<std::size_t>(std::lround(whole / 45)) % 8]) + ' ' +
+           number_text(whole) + "°";
+}
 
 std::vector<std::size_t> chosen_to_list(const std::vector<listed_line>& lines) {
     std::vector<std::size_t> places(lines.size());

@@ -16,6 +16,9 @@ struct displacement {
     double azimuth;  ///< degrees from north, clockwise
 };
 
+/// "NW 315°"
+std::string direction_words(double azimuth, language wanted);
+
 struct listed_line {
     std::size_t number;
     std::string caption;

@@ -68,6 +68,28 @@ void reprojection_utility::run(const target& goal, const std::vector<scene*>& li
     host_.run(plug_in_text::utility);
 }
 
+std::string target_of(shell::open_dialog& utility,
+                      const std::function<void(const std::filesystem::path&)>& answer_file) {
+    const temporary_folder folder;
+    const auto file = folder / "target.pj4";
+    answer_file(file);
+    dialog_hands(utility).click(plug_in_text::save());
+    fail_on_file_error();
+    return std::string(trimmed(read_file(file).value_or("")));
+}
+
+std::vector<std::size_t> checked_scenes(shell::open_dialog& utility, project& opened) {
+    shell::table_model& table = *dialog_hands(utility).only(node_kind::outline).rows();
+    const auto listed = listed_scenes(opened);
+    if (table.row_count() != listed.size())
+        throw headless::impossible("the dialog lists " + std::to_string(table.row_count()) + " scenes, not " +
+                                   std::to_string(listed.size()));
+    std::vector<std::size_t> checked;
+    for (std::uint32_t row = 0; row < listed.size(); ++row)
+        if (table.checked(row)) checked.push_back(listed[row]->index);
+    return checked;
+}
+
 std::filesystem::path catalogue_folder() {
     return std::filesystem::read_symlink("/proc/self/exe").parent_path() / "prj_def";
 }

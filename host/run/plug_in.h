@@ -32,6 +32,14 @@ private:
     shell::bundle_host host_;
 };
 
+/// The target that is chosen in the utility's open dialog, read as its Save button writes it; empty where
+/// none is chosen or it is "not defined". `answer_file` has the next file question of the dialog's user
+/// answered. Throws headless::impossible, failure.
+std::string target_of(shell::open_dialog& utility,
+                      const std::function<void(const std::filesystem::path&)>& answer_file);
+/// Numbers of the scenes that are checked in the utility's open dialog over the project.
+std::vector<std::size_t> checked_scenes(shell::open_dialog& utility, project& opened);
+
 /// The folder of the projection catalogue: beside the program, where the plug-in looks for it.
 std::filesystem::path catalogue_folder();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "session/console_messages.h"
 
@@ -17,6 +18,11 @@ messages& messages::instance() {
 void messages::use(std::unique_ptr<message_policy> policy) {
     if (!policy) throw std::invalid_argument("messages need a policy");
     policy_ = std::move(policy);
+}
+
+messages::state messages::swap(state next) {
+    if (!next.policy) throw std::invalid_argument("messages need a policy");
+    return {std::exchange(policy_, std::move(next.policy)), std::exchange(shown_, std::move(next.shown))};
 }
 
 void messages::show(message_kind kind, const std::string& text) {

@@ -43,6 +43,14 @@ public:
     /// Replaces the policy (at first: a console that asks). Null is refused with std::invalid_argument.
     void use(std::unique_ptr<message_policy> policy);
 
+    /// A policy and what was shown through it.
+    struct state {
+        std::unique_ptr<message_policy> policy;
+        std::vector<shown_message> shown;
+    };
+    /// Puts another in the place of this one, which is handed out. A state without policy is refused.
+    state swap(state next);
+
     void inform(const std::string& text) { show(message_kind::information, text); }
     void report_error(const std::string& text) { show(message_kind::error, text); }
     /// True for yes; no and nobody to ask are both false, and told apart in the record.
