@@ -37,6 +37,7 @@ void window_user::serve(shell::open_dialog& dialog) {
 }
 
 std::optional<std::filesystem::path> window_user::choose_file(const shell::file_question& question) {
+    if (answer_) return std::exchange(answer_, std::nullopt);
     QFileDialog window(top(), question.to_save ? say("Сохранить", "Save") : say("Открыть", "Open"),
                        QSettings().value(folder_key).toString(), filter_of(question.filter));
     window.setAcceptMode(question.to_save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include "shell/dialogs.h"
 
@@ -20,6 +22,9 @@ public:
     /// Begins in the folder of last time.
     std::optional<std::filesystem::path> choose_file(const shell::file_question& question) override;
 
+    /// The next question for a file has this answer, unseen.
+    void answer_file(std::filesystem::path file) { answer_ = std::move(file); }
+
     /// The window that is on top: parent of messages, too.
     QWidget* top() const { return shown_.empty() ? over_ : shown_.back(); }
 
@@ -28,6 +33,7 @@ public:
 
 private:
     QWidget* over_;
+    std::optional<std::filesystem::path> answer_;
     std::vector<QWidget*> shown_;
 };
 
