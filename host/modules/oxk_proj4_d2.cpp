@@ -33,7 +33,7 @@ struct reprojector {
 /// A scene whose update began after the wish to end, or, outside an update, any.
 bool is_declined() {
     const auto* update = journal::instance().current();
-    return update ? update->declined : interrupting_signal() != 0;
+    return update ? update->declined : ending_wished();
 }
 
 favourite_list* as_list(void* list) { return static_cast<favourite_list*>(list); }

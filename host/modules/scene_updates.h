@@ -57,7 +57,7 @@ inline void begin_scene_update(scene* changed) {
     for (; updated && updated != changed; updated = owner.updated_scene()) end_scene_update(updated);
     if (!updated) journal::instance().begin(changed->index);
     scene_update* const record = journal::instance().current();
-    if (record && !updated) record->declined = interrupting_signal() != 0;
+    if (record && !updated) record->declined = ending_wished();
     detail::guarded(*changed, [&] {
         owner.begin_update(*changed);
         if (record && record->declined) owner.abandon_update(*changed);

@@ -74,8 +74,7 @@ void reprojection::perform(const failure_listener& tell) {
     const auto after_apply = [&]() -> std::vector<scene*> {
         const std::size_t before = seen;
         seen = read_journal(results_, goal_.proj4, seen, tell);
-        const bool went_on =
-            seen > before && !interrupting_signal();  // else a further try would end the same
+        const bool went_on = seen > before && !ending_wished();  // else a further try would end the same
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};
     };
     const served_project serving(project_.get());
@@ -83,7 +82,7 @@ void reprojection::perform(const failure_listener& tell) {
 }
 
 bool reprojection::interrupted() const {
-    return interrupting_signal() != 0 && count(results_, outcome::not_attempted) > 0;
+    return ending_wished() && count(results_, outcome::not_attempted) > 0;
 }
 
 void reprojection::roll_back_if_failed() {

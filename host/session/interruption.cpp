@@ -13,12 +13,17 @@ namespace {
 constexpr std::array<int, 2> watched{SIGINT, SIGTERM};
 volatile sig_atomic_t noted = 0;
 std::array<struct sigaction, watched.size()> previous;
+bool wished_for = false;
 
 void note(int signal) { noted = signal; }
 
 }  // namespace
 
 int interrupting_signal() { return noted; }
+
+bool ending_wished() { return noted || wished_for; }
+
+void wish_ending(bool wished) { wished_for = wished; }
 
 interruption_watch::interruption_watch() {
     struct sigaction noting {};

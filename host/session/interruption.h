@@ -1,11 +1,16 @@
 #pragma once
-/// A wish from outside that the work ends: SIGINT or SIGTERM. Whoever changes scenes asks between two of
-/// them.
+/// A wish from outside that the work ends: SIGINT or SIGTERM, or a person's Cancel. Whoever changes scenes
+/// asks between two of them.
 
 namespace oxhost {
 
 /// The signal that arrived since the first watch began; 0 while none has.
 int interrupting_signal();
+
+/// True since a signal arrived, or while a person's wish holds.
+bool ending_wished();
+/// A person's wish that the work in hand ends; who began the work takes the wish back when it has ended.
+void wish_ending(bool wished);
 
 /// While it lives, the first SIGINT or SIGTERM is noted, and a second of the same kind ends the process at
 /// once. A signal that the process was started to ignore stays ignored. One at a time.

@@ -17,6 +17,7 @@
 #include "desktop/dialogs/window_messages.h"
 #include "desktop/text.h"
 #include "session/console_messages.h"
+#include "session/interruption.h"
 #include "testing/scratch_folder.h"
 
 namespace oxhost::desktop {
@@ -209,6 +210,41 @@ TEST_F(Dialogs, TellWhereALineFails) {
     ASSERT_NE(failed, notes.end());
     EXPECT_EQ(failed->scene, std::size_t{2});
     EXPECT_EQ(failed->place->x, 1e9);
+}
+
+/// Stopped in the midst, the scenes done so far are done and undone together, the others untouched; the next
+/// run is not stopped.
+TEST_F(Dialogs, StopARunBetweenScenes) {
+    choose_language(language::english);
+    constexpr auto utm41 = "+proj=utm +zone=41 +datum=WGS84 +units=m +no_defs";
+    shown.change([&](project& opened) {
+        const polyline line(300, {500000, 6e6});
+        opened.append(std::vector<new_scene>(3000, {"Many", true, utm41, line}));
+    });
+    QTimer stopper;
+    QObject::connect(&stopper, &QTimer::timeout, &over, [&] {
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (auto* bar = qobject_cast<QProgressDialog*>(each))
+                stopper.stop(), bar->findChild<QPushButton*>()->click();
+    });
+    stopper.start(0);
+    load(utm40);
+    select_all();
+    human.click("Apply");
+    human.click<QMessageBox>("Yes");
+    human.key<QDialog>(Qt::Key_Escape);
+    run();
+    const auto done = [this] {
+        return std::ranges::count_if(shown.opened()->scenes(), [](const scene& each) {
+            return each.caption == "Many" && each.proj4.find("zone=40") != std::string::npos;
+        });
+    };
+    EXPECT_GT(done(), 0);
+    EXPECT_LT(done(), 3000);
+    EXPECT_EQ(told("stopped: the scenes that were left are as they were"), 1);
+    shown.change([](project& opened) { opened.undo(later_changes::respected); });
+    EXPECT_EQ(done(), 0);
+    EXPECT_FALSE(ending_wished());
 }
 
 /// What a bundle says for each of a hundred scenes is one window and a hundred notes; said again by the next

@@ -1,6 +1,5 @@
 #include "desktop/decide/preview.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -24,14 +23,11 @@ namespace {
 
 using oxhost::run::foreseen;
 
-struct busy_pointer {
-    busy_pointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~busy_pointer() { QApplication::restoreOverrideCursor(); }
-};
-
 foreseen look_ahead(document& shown, const oxhost::run::preview_order& asked) {
-    const busy_pointer busy;
-    return oxhost::run::foresee(*shown.opened(), asked);
+    const auto bar = messages::instance().open_progress();
+    return oxhost::run::foresee(*shown.opened(), asked, [&](double share) {
+        if (bar) bar->report(share);
+    });
 }
 
 QString target_text(const std::string& target) {

@@ -8,29 +8,42 @@
 #include <QPushButton>
 
 #include "desktop/text.h"
+#include "session/interruption.h"
 #include "shell/host_strings.h"
 
 namespace oxhost::desktop {
 
-/// Nothing here can be cancelled; the person sees how far it is and can do nothing else meanwhile.
+/// The person sees how far it is, and may end it after the scene in hand; nothing else can be done meanwhile.
 class window_messages::progress final : public progress_display {
 public:
     explicit progress(window_messages& all)
-        : all_(all), window_(say("Выполняется…", "Working…"), QString(), 0, 1000, all.user_.top()) {
-        ++all_.progress_;
-        window_.setWindowModality(Qt::WindowModal);
+        : all_(all),
+          window_(say("Выполняется…", "Working…"), say("Остановить", "Stop"), 0, 1000, all.user_.top()) {
+        if (++all_.progress_ == 1) all_.stopped_ = false;
+        window_.setWindowModality(Qt::ApplicationModal);
         window_.setMinimumDuration(300);
         window_.setAutoReset(false);
+        window_.setAutoClose(false);
+        QObject::connect(&window_, &QProgressDialog::canceled, &window_, [this] {
+            all_.stopped_ = true;
+            wish_ending(true);
+        });
         since_.start();
     }
     ~progress() override {
-        if (--all_.progress_ == 0) all_.work_ended_.start();
+        if (--all_.progress_ > 0) return;
+        all_.work_ended_.start();
+        if (!all_.stopped_) return;
+        wish_ending(false);
+        all_.note_down(message_kind::information,
+                       words("остановлено: остальные сцены остались как были",
+                             "stopped: the scenes that were left are as they were"));
     }
     void report(double fraction) override {
         if (since_.elapsed() < 40) return;  // else drawing would cost more than the work
         since_.restart();
         window_.setValue(static_cast<int>(fraction * 1000));
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QApplication::processEvents();  // input reaches this window only
     }
 
 private:
@@ -42,7 +55,9 @@ private:
 window_messages::window_messages(document& shown, const window_user& user) : document_(shown), user_(user) {
     work_ended_.setSingleShot(true);
     QObject::connect(&work_ended_, &QTimer::timeout, &work_ended_, [this] {
-        if (progress_ == 0) last_.clear();
+        if (progress_ > 0) return;
+        last_.clear();
+        stopped_ = false;
     });
 }
 
@@ -54,6 +69,7 @@ void window_messages::note_down(message_kind kind, const std::string& text) {
 }
 
 void window_messages::show(message_kind kind, const std::string& text) {
+    if (stopped_) return;  // a verdict on scenes that were declined
     note_down(kind, text);
     if (text == last_) return;
     QMessageBox window(kind == message_kind::error ? QMessageBox::Critical : QMessageBox::Information,

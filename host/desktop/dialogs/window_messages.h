@@ -28,6 +28,7 @@ private:
     const window_user& user_;
     std::string last_;          ///< shown in a window by the piece of work that is going on
     QTimer work_ended_;         ///< fires when the person can act again
+    bool stopped_ = false;      ///< the piece of work that is going on was ended by the person
     std::size_t progress_ = 0;  ///< indicators on display, which let timers through in the midst of work
 };
 

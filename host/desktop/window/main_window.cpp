@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "desktop/decide/preview.h"
 #include "desktop/dialogs/window_messages.h"
 #include "desktop/text.h"
 #include "desktop/window/recent.h"
@@ -24,6 +25,9 @@ main_window::main_window() {
     setAcceptDrops(true);
     lay_out();
     messages::instance().use(std::make_unique<window_messages>(document_, user_));
+    user_.on_opened = [this](shell::open_dialog& dialog, QDialogButtonBox& buttons) {
+        add_preview_button(document_, user_, dialog, buttons);
+    };
     utilities_ = std::make_unique<utilities>(document_, user_);
     connect(utilities_.get(), &utilities::ended, this, &main_window::show_changes);
     build_menus();
