@@ -8,4 +8,4 @@ step "Building" cmake --build --preset release --parallel "$(nproc)" --target ox
 project=$(mktemp -d)/sample.gpkg
 step "Importing samples/*.geojson" build/release/oxhost import "$project" samples/*.geojson
 step "Drawing docs/images" build/release/window_pictures "$project" docs/images
-rm -rf "$(dirname "$project")" docs/images/{window,dialog}.*.dark.png  # those are only for looking at
+rm -rf "$(dirname "$project")" docs/images/*.dark.png  # those are only for looking at

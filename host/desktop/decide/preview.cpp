@@ -79,7 +79,7 @@ public:
         rows->addWidget(buttons);
         table->setFocus();
         const int em = fontMetrics().height();
-        resize(60 * em, 36 * em);
+        resize(84 * em, 46 * em);
     }
 };
 

@@ -84,6 +84,7 @@ preview_table::preview_table(const oxhost::run::foreseen& told, QWidget* parent)
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
     horizontalHeader()->setStretchLastSection(true);
     name_texts();
     sortByColumn(2, Qt::AscendingOrder);

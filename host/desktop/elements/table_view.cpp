@@ -18,7 +18,7 @@ table_view::table_view(shell::node& table, QWidget* parent) : QTreeView(parent),
     for (int i = 0; i < model_.columnCount(); ++i)
         if (rows_.columns()[static_cast<std::size_t>(i)].pictures)
             header()->setSectionResizeMode(i, QHeaderView::ResizeToContents);
-    header()->resizeSection(0, fontMetrics().averageCharWidth() * 30);
+    header()->resizeSection(0, fontMetrics().averageCharWidth() * 42);
     setSortingEnabled(true);
     header()->setSortIndicator(-1, Qt::AscendingOrder);  // as the bundle lists them
 
@@ -32,6 +32,10 @@ table_view::table_view(shell::node& table, QWidget* parent) : QTreeView(parent),
         if (!taking_ && now.isValid()) rows_.make_current(model_.row_at(now));
     });
     take_selection();
+}
+
+QSize table_view::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 96, fontMetrics().lineSpacing() * 16};
 }
 
 void table_view::take_selection() {

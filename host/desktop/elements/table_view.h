@@ -11,6 +11,7 @@ namespace oxhost::desktop {
 class table_view final : public QTreeView {
 public:
     table_view(shell::node& table, QWidget* parent);
+    QSize sizeHint() const override;  ///< two columns of names are readable
 
 protected:
     /// Space checks all selected rows, or takes their checks away.
