@@ -34,7 +34,15 @@ void print_fault(const ox::border_fault& fault) {
 exit_code code_of_current_exception() try { throw; } catch (const failure& error) {
     return error.code;
 } catch (const run::failure& error) {
-    return error.kind == run::trouble::unreadable ? exit_code::unreadable : exit_code::nothing_done;
+    switch (error.kind) {
+        case run::trouble::unreadable:
+            return exit_code::unreadable;
+        case run::trouble::scene:
+            return exit_code::scene_failed;
+        case run::trouble::refused:
+            break;
+    }
+    return exit_code::nothing_done;
 } catch (const shell::bundle_error&) {
     return exit_code::unreadable;
 } catch (const project_error&) {

@@ -12,6 +12,7 @@
 #include "geodesy/mended_text.h"
 #include "geodesy/projection_files.h"
 #include "geodesy/text_difference.h"
+#include "run/outputs.h"
 #include "run/plug_in.h"
 #include "run/plug_in_texts.h"
 #include "run/request.h"
@@ -115,7 +116,7 @@ bool tell_difference(const std::string& taken, const std::string& composed) {
 }
 
 exit_code edit(const project_options& options) try {
-    for (const std::filesystem::path& each : options.outputs) check_output(each, options.overwrite);
+    for (const std::filesystem::path& each : options.outputs) run::check_output(each, options.overwrite);
     // An empty text is what the dialog starts from when nothing is chosen.
     const run::target start = options.text.empty() ? run::target{} : run::read_target(options.text);
     run::projection_dialog dialog(options.bundle);

@@ -7,6 +7,7 @@
 #include "app/outputs.h"
 #include "base/files.h"
 #include "base/language.h"
+#include "run/outputs.h"
 #include "run/report.h"
 #include "session/console_messages.h"
 #include "session/interruption.h"
@@ -31,7 +32,7 @@ struct reproject_options {
 /// Everything that can be found wrong is found here, before anything changes.
 void check_outputs(const reproject_options& options) {
     for (const fs::path& out : {options.report, options.map})
-        if (!out.empty()) check_output(out, options.overwrite);
+        if (!out.empty()) run::check_output(out, options.overwrite);
     if (!options.map.empty() && options.map == options.report)
         throw failure(exit_code::nothing_done,
                       options.map.string() +

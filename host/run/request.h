@@ -17,6 +17,7 @@ namespace oxhost::run {
 enum class trouble {
     unreadable,  ///< a file that is to be read
     refused,     ///< settings that do not work, or an output that cannot be written
+    scene,       ///< a line that cannot be brought where it is wanted
 };
 
 /// One line for the user.
