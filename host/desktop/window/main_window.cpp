@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/decide/preview.h"
@@ -15,6 +16,7 @@
 #include "desktop/text.h"
 #include "desktop/window/recent.h"
 #include "geodesy/measure.h"
+#include "project/recognise.h"
 #include "session/console_messages.h"
 #include "session/messages.h"
 
@@ -138,8 +140,16 @@ void main_window::dragEnterEvent(QDragEnterEvent* event) {
 
 void main_window::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    for (const QUrl& each : event->mimeData()->urls())
-        if (each.isLocalFile()) return open(to_path(each.toLocalFile()));
+    std::vector<std::filesystem::path> sources;
+    for (const QUrl& each : event->mimeData()->urls()) {
+        if (!each.isLocalFile()) continue;
+        const auto file = to_path(each.toLocalFile());
+        if (is_project(file)) return open(file);
+        sources.push_back(file);
+    }
+    // Not from within the event: the program that the files come from waits for its end.
+    if (!sources.empty())
+        QTimer::singleShot(0, this, [=, this] { actions_.attempt([&] { import(sources); }); });
 }
 
 }  // namespace oxhost::desktop

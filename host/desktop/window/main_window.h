@@ -39,7 +39,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;  ///< of a project, which is opened
+    void dropEvent(QDropEvent* event) override;  ///< projects are opened, others imported
 
 private:
     void lay_out();
@@ -56,6 +56,7 @@ private:
     void build_help_menu();
     void create_project();
     void choose_project();
+    void import(std::vector<std::filesystem::path> files);
     void list_recent(QMenu* menu);
     void list_systems(QMenu* menu);    ///< of the map
     void list_utilities(QMenu* menu);  ///< captions and pictures are the bundles' own, in the language of now

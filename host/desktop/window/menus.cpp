@@ -4,6 +4,9 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
+#include "desktop/project/export_dialog.h"
+#include "desktop/project/history_dialog.h"
+#include "desktop/project/import_dialog.h"
 #include "desktop/text.h"
 #include "desktop/window/language_choice.h"
 #include "desktop/window/look.h"
@@ -38,7 +41,15 @@ void main_window::build_project_menu() {
     const auto add = [&](bilingual caption, const QKeySequence& keys, std::function<void()> act) {
         of_a_project_.push_back(actions_.action(menu, caption, keys, std::move(act)));
     };
+    add({"&Импорт…", "&Import…"}, QKeySequence("Ctrl+I"), [this] { import({}); });
+    add({"&Экспорт…", "&Export…"}, QKeySequence("Ctrl+E"), [this] { export_scenes(document_, this); });
+    menu->addSeparator();
     add({"О&тменить последний проход…", "&Undo the last run…"}, QKeySequence::Undo, [this] { undo(); });
+    add({"Истори&я…", "&History…"}, QKeySequence("Ctrl+H"),
+        [this] { show_history(document_, this, [this] { actions_.attempt([this] { undo(); }); }); });
+    add({"&Свойства…", "&Properties…"}, QKeySequence("Alt+Return"),
+        [this] { show_properties(document_, this); });
+    menu->addSeparator();
     add({"Прочитать &заново", "Re&load"}, QKeySequence::Refresh, [this] { document_.reload(); });
     add({"&Закрыть проект", "&Close project"}, QKeySequence::Close, [this] { document_.close(); });
     menu->addSeparator();
@@ -111,6 +122,11 @@ void main_window::create_project() {
     if (!file.endsWith(".gpkg", Qt::CaseInsensitive)) file += ".gpkg";
     document_.create(to_path(file));  // refuses a file that is there
     remember_recent(to_path(file));
+}
+
+void main_window::import(std::vector<std::filesystem::path> files) {
+    if (!document_.opened()) create_project();
+    if (document_.opened()) import_files(document_, std::move(files), this);
 }
 
 void main_window::choose_project() {
