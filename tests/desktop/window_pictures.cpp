@@ -50,7 +50,9 @@ private:
     void next() {
         if (!steps_.empty()) wait();
         QWidget* top = QApplication::activeModalWidget();
-        if (!top || steps_.empty() || qobject_cast<QProgressDialog*>(top)) return;
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (qobject_cast<QProgressDialog*>(each)) return;  // at work, if too shortly to be shown
+        if (!top || steps_.empty()) return;
         const auto step = steps_.front();
         steps_.pop_front();
         step(top);

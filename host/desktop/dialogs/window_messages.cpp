@@ -43,7 +43,9 @@ public:
         if (since_.elapsed() < 40) return;  // else drawing would cost more than the work
         since_.restart();
         window_.setValue(static_cast<int>(fraction * 1000));
-        QApplication::processEvents();  // input reaches this window only
+        // Input reaches this window only, once it is there; until then it waits.
+        QApplication::processEvents(window_.isVisible() ? QEventLoop::AllEvents
+                                                        : QEventLoop::ExcludeUserInputEvents);
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "desktop/project/cancellable_bar.h"
 
 #include <QApplication>
+#include <QEventLoop>
 
 #include "desktop/text.h"
 
@@ -29,7 +30,9 @@ void cancellable_bar::tell(const QString& text, double share) {
     window_.setLabelText(text);
     if (share >= 0) window_.setMaximum(steps);
     window_.setValue(share < 0 ? 0 : static_cast<int>(share * steps));
-    QApplication::processEvents();  // input reaches this window only
+    // Input reaches this window only, once it is there; until then it waits.
+    QApplication::processEvents(window_.isVisible() ? QEventLoop::AllEvents
+                                                    : QEventLoop::ExcludeUserInputEvents);
     if (window_.wasCanceled()) throw cancelled{};
 }
 
