@@ -1,23 +1,11 @@
 #include "run/judgement.h"
 
-#include <stdexcept>
-
 #include "geodesy/reprojector.h"
 #include "geodesy/way_back.h"
 
 namespace oxhost::run {
 
 namespace {
-
-/// A text that PROJ refuses, or an empty one, measures nothing.
-template <class Measure>
-auto measured(const std::string& proj4, Measure&& measure) -> decltype(measure()) {
-    try {
-        if (!proj4.empty()) return measure();
-    } catch (const std::invalid_argument&) {
-    }
-    return std::nullopt;
-}
 
 /// The shift at the vertices whose way back is tested, and how far segments bow.
 void judge_way(judgement& judged, const record& told, std::size_t i) {

@@ -2,12 +2,24 @@
 /// The figures by which one scene's reprojection is judged: for reports and for windows.
 
 #include <optional>
+#include <stdexcept>
+#include <string>
 
 #include "geodesy/measure.h"
 #include "geodesy/transformation.h"
 #include "run/reprojection.h"
 
 namespace oxhost::run {
+
+/// What `measure` tells of a projection's text; nothing where the text is empty or refused by PROJ.
+template <class Measure>
+auto measured(const std::string& proj4, Measure&& measure) -> decltype(measure()) {
+    try {
+        if (!proj4.empty()) return measure();
+    } catch (const std::invalid_argument&) {
+    }
+    return std::nullopt;
+}
 
 /// Metres, except where the name says otherwise; nothing where there is nothing to measure.
 struct judgement {

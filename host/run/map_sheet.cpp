@@ -1,7 +1,5 @@
 #include <proj.h>
 
-#include <stdexcept>
-
 #include "base/language.h"
 #include "geodesy/crs_import.h"
 #include "geodesy/description.h"
@@ -14,16 +12,6 @@
 namespace oxhost::run {
 
 namespace {
-
-/// A text that PROJ refuses, or an empty one, measures nothing.
-template <class Measure>
-auto measured(const std::string& proj4, Measure&& measure) -> decltype(measure()) {
-    try {
-        if (!proj4.empty()) return measure();
-    } catch (const std::invalid_argument&) {
-    }
-    return std::nullopt;
-}
 
 /// "WGS 84 / UTM zone 40N (EPSG:32640)", or what the text says where it has no name.
 std::string name_of(const std::string& proj4, language wanted) {

@@ -126,7 +126,7 @@ private:
 
 }  // namespace
 
-void import_files(document& shown, std::vector<std::filesystem::path> files, QWidget* over) {
+void import_files(document& shown, const std::vector<std::filesystem::path>& files, QWidget* over) {
     import_dialog window(files, over);
     if (files.empty()) window.ask_for_files();
     while (window.exec()) try {

@@ -11,6 +11,6 @@ namespace oxhost::desktop {
 
 /// Asks what the command line's options ask, and imports; what was taken, dropped and changed is told in the
 /// notes. All files, or none of them. Throws what run::import_into throws.
-void import_files(document& shown, std::vector<std::filesystem::path> files, QWidget* over);
+void import_files(document& shown, const std::vector<std::filesystem::path>& files, QWidget* over);
 
 }  // namespace oxhost::desktop

@@ -8,7 +8,6 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/decide/preview.h"
@@ -149,7 +148,8 @@ void main_window::dropEvent(QDropEvent* event) {
     }
     // Not from within the event: the program that the files come from waits for its end.
     if (!sources.empty())
-        QTimer::singleShot(0, this, [=, this] { actions_.attempt([&] { import(sources); }); });
+        QMetaObject::invokeMethod(
+            this, [=, this] { actions_.attempt([&] { import(sources); }); }, Qt::QueuedConnection);
 }
 
 }  // namespace oxhost::desktop

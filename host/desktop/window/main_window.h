@@ -56,7 +56,7 @@ private:
     void build_help_menu();
     void create_project();
     void choose_project();
-    void import(std::vector<std::filesystem::path> files);
+    void import(const std::vector<std::filesystem::path>& files);
     void list_recent(QMenu* menu);
     void list_systems(QMenu* menu);    ///< of the map
     void list_utilities(QMenu* menu);  ///< captions and pictures are the bundles' own, in the language of now

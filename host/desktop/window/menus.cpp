@@ -124,9 +124,9 @@ void main_window::create_project() {
     remember_recent(to_path(file));
 }
 
-void main_window::import(std::vector<std::filesystem::path> files) {
+void main_window::import(const std::vector<std::filesystem::path>& files) {
     if (!document_.opened()) create_project();
-    if (document_.opened()) import_files(document_, std::move(files), this);
+    if (document_.opened()) import_files(document_, files, this);
 }
 
 void main_window::choose_project() {
