@@ -10,8 +10,7 @@
 #include "app/command.h"
 #include "base/numbers.h"
 #include "catalogue/index.h"
-#include "geodesy/crs.h"
-#include "geodesy/measure.h"
+#include "run/guess_hints.h"
 #include "run/plug_in.h"
 #include "run/report.h"
 #include "run/request.h"
@@ -36,26 +35,6 @@ point place_in(const std::string& given) {
         throw CLI::ValidationError(
             "--near", given + words(": не ДОЛГОТА,ШИРОТА в градусах", ": is not LON,LAT in degrees"));
     return {*longitude, *latitude};
-}
-
-/// Of the project's lines that have a projection and are not asked for; of many, some from all over the list.
-guess_hints hints_of(project& opened, const std::vector<scene*>& asked) {
-    constexpr std::size_t most = 200;
-    std::vector<const scene*> others;
-    for (const scene& each : opened.scenes())
-        if (each.line && !each.proj4.empty() && std::ranges::find(asked, &each) == asked.end())
-            others.push_back(&each);
-    guess_hints hints;
-    const std::size_t count = std::min(most, others.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        const scene& other = *others[i * others.size() / count];
-        const polyline line = opened.read_line(other).xy;
-        if (line.empty() || !crs_of(other.proj4)->valid()) continue;
-        if (const auto place = to_wgs84({line[line.size() / 2]}, other.proj4))
-            hints.near.push_back(place->front());
-        hints.texts.push_back(other.proj4);
-    }
-    return hints;
 }
 
 std::string degrees(double value, std::string_view positive, std::string_view negative) {
@@ -91,7 +70,7 @@ exit_code guess(const guess_options& options) {
     const auto opened = run::open_project(options.project, open_mode::read_only);
     const std::vector<scene*> asked = run::select_scenes(*opened, options.scenes);
     const catalogue_index index(run::catalogue_folder() / catalogue_index_file);
-    guess_hints hints = hints_of(*opened, asked);
+    guess_hints hints = run::hints_of(*opened, asked);
     if (options.near) hints.near = {*options.near};
     auto rows = nlohmann::ordered_json::array();
     bool all_found = true;

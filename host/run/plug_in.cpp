@@ -78,6 +78,18 @@ std::string target_of(shell::open_dialog& utility,
     return std::string(trimmed(read_file(file).value_or("")));
 }
 
+void prepare(shell::open_dialog& utility, project& opened, const std::vector<std::size_t>& scenes,
+             const std::string& proj4, const std::function<void(const std::filesystem::path&)>& answer_file) {
+    const temporary_folder folder;
+    dialog_hands hands(utility);
+    answer_file(file_of(read_target(proj4), folder));
+    hands.click(plug_in_text::load());
+    fail_on_file_error();
+    std::vector<scene*> wanted;
+    for (const std::size_t each : scenes) wanted.push_back(opened.at(each));
+    check_scenes(hands, listed_scenes(opened), wanted);
+}
+
 std::vector<std::size_t> checked_scenes(shell::open_dialog& utility, project& opened) {
     shell::table_model& table = *dialog_hands(utility).only(node_kind::outline).rows();
     const auto listed = listed_scenes(opened);

@@ -37,6 +37,10 @@ private:
 /// answered. Throws headless::impossible, failure.
 std::string target_of(shell::open_dialog& utility,
                       const std::function<void(const std::filesystem::path&)>& answer_file);
+/// Chooses a target and checks the scenes of those numbers in the utility's open dialog over the project, by
+/// its own Load button and check boxes. Throws headless::impossible, failure.
+void prepare(shell::open_dialog& utility, project& opened, const std::vector<std::size_t>& scenes,
+             const std::string& proj4, const std::function<void(const std::filesystem::path&)>& answer_file);
 /// Numbers of the scenes that are checked in the utility's open dialog over the project.
 std::vector<std::size_t> checked_scenes(shell::open_dialog& utility, project& opened);
 

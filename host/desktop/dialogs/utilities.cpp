@@ -1,6 +1,7 @@
 #include "desktop/dialogs/utilities.h"
 
 #include <QSettings>
+#include <algorithm>
 
 #include "desktop/elements/draw.h"
 #include "desktop/text.h"
@@ -45,6 +46,13 @@ std::vector<utilities::offer> utilities::offered() const {
             if (found.id == each.id)
                 all.push_back({to_qt(each.bundle->caption(found)), icon_of(each.bundle->icon(found))});
     return all;
+}
+
+std::size_t utilities::place_of(const std::string& id) const {
+    const auto found = std::ranges::find(entries_, id, &entry::id);
+    if (found == entries_.end())
+        throw shell::bundle_error(words("утилита не загружена: ", "the utility is not loaded: ") + id);
+    return static_cast<std::size_t>(found - entries_.begin());
 }
 
 void utilities::run(std::size_t which) {

@@ -27,6 +27,8 @@ public:
         QIcon icon;
     };
     std::vector<offer> offered() const;
+    /// The place among them of the utility of that id. Throws bundle_error when no bundle has it.
+    std::size_t place_of(const std::string& id) const;
 
     /// Returns when the utility's dialog is closed. Failures of scenes are told as notes with their places.
     /// Throws project_error, bundle_error; a second run from inside the first one is refused.

@@ -28,6 +28,7 @@ main_window::main_window() {
     messages::instance().use(std::make_unique<window_messages>(document_, user_));
     user_.on_opened = [this](shell::open_dialog& dialog, QDialogButtonBox& buttons) {
         add_preview_button(document_, user_, dialog, buttons);
+        prepare(dialog, buttons);
     };
     utilities_ = std::make_unique<utilities>(document_, user_);
     connect(utilities_.get(), &utilities::ended, this, &main_window::show_changes);

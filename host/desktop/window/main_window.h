@@ -6,10 +6,12 @@
 #include <QMainWindow>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "desktop/decide/guess_dialog.h"
 #include "desktop/dialogs/utilities.h"
 #include "desktop/dialogs/window_user.h"
 #include "desktop/document.h"
@@ -64,6 +66,10 @@ private:
     void run(std::size_t utility);
     void show_changes(const std::vector<oxhost::run::scene_result>& results);
     void undo();
+    void guess();  ///< a projection for each line that has none, as long as the person goes on
+    /// Opens the reprojection utility with a scene checked and its projection chosen, and applies it.
+    void assign(const guessed& chosen);
+    void prepare(shell::open_dialog& dialog, QDialogButtonBox& buttons);
 
     document document_;
     action_book actions_{document_, this};
@@ -77,6 +83,7 @@ private:
     std::vector<QAction*> of_a_project_;  ///< for nothing without one
     window_user user_{this};
     std::unique_ptr<utilities> utilities_;
+    std::optional<guessed> to_assign_;                    ///< in the next dialog of the reprojection utility
     std::vector<std::pair<std::string, polyline>> kept_;  ///< projections and lines before the last run
 };
 

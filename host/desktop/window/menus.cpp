@@ -92,6 +92,10 @@ void main_window::list_utilities(QMenu* menu) {
         connect(made, &QAction::triggered, this, [this, i] { actions_.attempt([&] { run(i); }); });
     }
     if (offered.empty()) menu->addAction(say("Пусто", "None"))->setEnabled(false);
+    menu->addSeparator();
+    QAction* made = menu->addAction(say("&Подобрать проекцию…", "&Guess the projection…"));
+    made->setShortcut(QKeySequence("Ctrl+G"));
+    connect(made, &QAction::triggered, this, [this] { actions_.attempt([this] { guess(); }); });
 }
 
 void main_window::build_language_menu() {

@@ -1,8 +1,14 @@
 // Runs of utilities from the main window: what they changed is shown, and taken back on demand.
 
+#include <QPushButton>
+#include <algorithm>
+
 #include "desktop/text.h"
 #include "desktop/window/main_window.h"
 #include "geodesy/measure.h"
+#include "run/plug_in.h"
+#include "run/plug_in_texts.h"
+#include "run/selection.h"
 #include "session/messages.h"
 
 namespace oxhost::desktop {
@@ -43,6 +49,40 @@ void main_window::run(std::size_t utility) {
         for (const scene& each : opened->scenes())
             kept_.emplace_back(each.proj4, each.line ? opened->read_line(each).xy : polyline());
     utilities_->run(utility);
+}
+
+void main_window::guess() {
+    if (!document_.opened()) throw project_error(words("проект не открыт", "no project is open"));
+    std::optional<std::size_t> first;
+    if (!document_.selected().empty()) first = document_.selected().front();
+    const auto show = [this](const polyline& line) { map_->show_candidate(line); };
+    while (const auto chosen = guess_projection(document_, first, show, this)) {
+        assign(*chosen);
+        const auto scenes = oxhost::run::listed_scenes(*document_.opened());
+        const auto lacking = [](const scene* each) { return each->proj4.empty() && each->line; };
+        if (!document_.opened()->at(chosen->scene)->proj4.empty() && std::ranges::none_of(scenes, lacking))
+            return;
+        first = chosen->scene;
+    }
+}
+
+void main_window::assign(const guessed& chosen) {
+    to_assign_ = chosen;
+    run(utilities_->place_of(oxhost::run::plug_in_text::utility));
+    to_assign_.reset();
+}
+
+/// The projection goes the way of a person's: through the dialog's own Load button, check boxes and Apply.
+void main_window::prepare(shell::open_dialog& dialog, QDialogButtonBox& buttons) {
+    if (!to_assign_ || dialog.id() != oxhost::run::plug_in_text::utility) return;
+    const guessed chosen = *std::exchange(to_assign_, std::nullopt);
+    actions_.attempt([&] {
+        oxhost::run::prepare(dialog, *document_.opened(), {chosen.scene}, chosen.proj4,
+                             [this](const std::filesystem::path& file) { user_.answer_file(file); });
+        for (QAbstractButton* each : buttons.buttons())
+            if (auto* apply = qobject_cast<QPushButton*>(each); apply && apply->isDefault())
+                QMetaObject::invokeMethod(apply, &QPushButton::click, Qt::QueuedConnection);
+    });
 }
 
 /// The lines of changed scenes as they were, where they were; and the way back, one press away.
