@@ -33,10 +33,9 @@ std::optional<published_shift> read_shift(const PJ* operation) {
     return shift;
 }
 
-std::set<std::string> transformation_codes(bool withdrawn_too) {
+std::set<std::string> epsg_codes(PJ_TYPE type, bool withdrawn_too) {
     std::set<std::string> codes;
-    const auto list =
-        proj_get_codes_from_database(proj_context(), "EPSG", PJ_TYPE_TRANSFORMATION, withdrawn_too);
+    const auto list = proj_get_codes_from_database(proj_context(), "EPSG", type, withdrawn_too);
     for (auto code = list; code && *code; ++code) codes.insert(*code);
     proj_string_list_destroy(list);
     return codes;
@@ -48,8 +47,8 @@ bool same_shape(const ellipsoid& a, const ellipsoid& b) {
 
 /// Those to WGS 84 that EPSG has withdrawn, which PROJ keeps but offers for no system.
 void add_withdrawn(const ellipsoid& shape, std::vector<published_shift>& shifts) {
-    const auto valid = transformation_codes(false);
-    for (const std::string& code : transformation_codes(true)) {
+    const auto valid = epsg_codes(PJ_TYPE_TRANSFORMATION, false);
+    for (const std::string& code : epsg_codes(PJ_TYPE_TRANSFORMATION, true)) {
         if (valid.contains(code)) continue;
         const pj_ptr operation(proj_create_from_database(proj_context(), "EPSG", code.c_str(),
                                                          PJ_CATEGORY_COORDINATE_OPERATION, 0, nullptr));
@@ -67,22 +66,12 @@ void add_withdrawn(const ellipsoid& shape, std::vector<published_shift>& shifts)
 /// Those of every geographic system of the EPSG data set that stands on this ellipsoid.
 std::vector<published_shift> shifts_from_all(const ellipsoid& shape) {
     std::vector<published_shift> shifts;
-    PJ_CONTEXT* const context = proj_context();
-    const PJ_TYPE type = PJ_TYPE_GEOGRAPHIC_2D_CRS;
-    PROJ_CRS_LIST_PARAMETERS* const wanted = proj_get_crs_list_parameters_create();
-    wanted->types = &type;
-    wanted->typesCount = 1;
-    int count = 0;
-    PROJ_CRS_INFO** const list = proj_get_crs_info_list_from_database(context, "EPSG", wanted, &count);
-    proj_get_crs_list_parameters_destroy(wanted);
-    for (int i = 0; i < count; ++i) {
+    for (const std::string& code : epsg_codes(PJ_TYPE_GEOGRAPHIC_2D_CRS, false)) {
         const pj_ptr system(
-            proj_create_from_database(context, "EPSG", list[i]->code, PJ_CATEGORY_CRS, 0, nullptr));
-        if (!system) continue;
-        if (!same_shape(ellipsoid_of(system.get()), shape)) continue;
+            proj_create_from_database(proj_context(), "EPSG", code.c_str(), PJ_CATEGORY_CRS, 0, nullptr));
+        if (!system || !same_shape(ellipsoid_of(system.get()), shape)) continue;
         for (auto& shift : published_shifts(system.get())) shifts.push_back(std::move(shift));
     }
-    proj_crs_info_list_destroy(list);
     add_withdrawn(shape, shifts);
     return shifts;
 }

@@ -12,6 +12,11 @@ reprojection_rules& rules() {
     return only;
 }
 
+image_source& images() {
+    static image_source only;
+    return only;
+}
+
 std::string missed_by(double metres, double tolerance) {
     if (!std::isfinite(metres))
         return words("не возвращается из целевой проекции на своё место",
@@ -28,6 +33,8 @@ std::string missed_by(double metres, double tolerance) {
 const reprojection_rules& current_rules() { return rules(); }
 void use_rules(const reprojection_rules& wanted) { rules() = wanted; }
 
+void use_images(image_source source) { images() = std::move(source); }
+
 std::optional<std::string> refusal_of_target(std::string_view proj4) {
     if (current_rules().one_way || has_inverse(proj4)) return {};
     const std::string text(proj4);
@@ -40,11 +47,18 @@ std::optional<std::string> refusal_of_target(std::string_view proj4) {
 reprojected_line reproject(section_line& line, const transformation& way) {
     reprojected_line done;
     polyline result = line.xy;
-    done.failure = way.apply(result);
+    std::optional<polyline> returned;
+    if (auto image = images() ? images()(line.xy, way) : std::nullopt) {
+        done.failure = way.accept(result, std::move(image->places));
+        returned = std::move(image->returned);
+    } else {
+        done.failure = way.apply(result);
+    }
     if (done.failure) return done;
     const reprojection_rules& wanted = current_rules();
     if (way.has_return()) {
-        const auto [vertex, metres] = test_return(line.xy, result, way, wanted.return_tolerance);
+        const auto [vertex, metres] =
+            test_return(line.xy, result, way, wanted.return_tolerance, std::move(returned));
         done.return_error = metres;
         if (!(metres <= wanted.return_tolerance)) {
             done.failure = {vertex, line.xy[vertex], missed_by(metres, wanted.return_tolerance)};

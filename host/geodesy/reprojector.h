@@ -2,6 +2,7 @@
 /// A scene's line on its way into another projection: transformed, judged by the way back, and given more
 /// vertices where straight segments would bow. [ui]
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +20,17 @@ struct reprojection_rules {
 };
 const reprojection_rules& current_rules();
 void use_rules(const reprojection_rules& rules);
+
+/// PROJ's part of the work on a line, done before the line was asked for.
+struct line_image {
+    polyline places;    ///< of every vertex, as a lane gives them
+    polyline returned;  ///< of the tested vertices; empty without a way back
+};
+
+/// Asked for every line that is reprojected, until it is replaced by an empty one: bit for bit what the way
+/// would make of the line, or nothing.
+using image_source = std::function<std::optional<line_image>(const polyline&, const transformation&)>;
+void use_images(image_source source);
 
 /// Why the rules refuse the text as a target, in the user's language; nothing when they do not.
 std::optional<std::string> refusal_of_target(std::string_view proj4);

@@ -15,7 +15,7 @@ namespace {
     throw std::invalid_argument(std::string(side) + " \"" + system.text + "\": " + system.error);
 }
 
-void transform(PJ* pipeline, polyline& line, PJ_DIRECTION direction = PJ_FWD) {
+void transform(PJ* pipeline, std::span<point> line, PJ_DIRECTION direction = PJ_FWD) {
     if (line.empty()) return;
     constexpr std::size_t stride = sizeof(point);
     proj_errno_reset(pipeline);
@@ -35,6 +35,12 @@ bool judge_inverse(const crs& system) {
     const pj_ptr way(proj_create_crs_to_crs_from_pj(proj_context(), base.get(),
                                                     unbound(system.object.get()).get(), nullptr, nullptr));
     return !way || proj_pj_info(way.get()).has_inverse != 0;
+}
+
+/// Of several operations PROJ describes none before the first place is transformed.
+bool is_single(PJ* pipeline) {
+    const char* described = proj_pj_info(pipeline).definition;
+    return described && std::string_view(described) != "unavailable until proj_trans is called";
 }
 
 /// Within 180 degrees of the centre; a longitude on the seam stays.
@@ -104,12 +110,17 @@ std::shared_ptr<const transformation> transformation::prepare(std::string_view s
         throw std::invalid_argument(words("нет пути ", "no transformation ") + pair + " (" +
                                     take_proj_complaint() + ')');
     }
+    made->single_operation_ = is_single(made->pipeline_.get());
     return made;
 }
 
 std::optional<vertex_failure> transformation::apply(polyline& line) const {
-    polyline result = line;
-    transform(pipeline_.get(), result);
+    polyline image = line;
+    transform(pipeline_.get(), image);
+    return accept(line, std::move(image));
+}
+
+std::optional<vertex_failure> transformation::accept(polyline& line, polyline result) const {
     bool good = true;
     for (const point& at : result) good = good && is_finite(at);
     // The longitude/latitude steps of PROJ take any number for a latitude.
@@ -150,6 +161,23 @@ std::optional<vertex_failure> transformation::first_failure(const polyline& befo
 }
 
 void transformation::bring_back(polyline& line) const { transform(pipeline_.get(), line, PJ_INV); }
+
+std::optional<transformation::lane> transformation::lane::of(const transformation& way) {
+    lane made;
+    made.context_.reset(proj_context_create());
+    proj_log_func(made.context_.get(), nullptr, [](void*, int, const char*) {});
+    proj_context_set_enable_network(made.context_.get(), 0);
+    made.pipeline_.reset(proj_clone(made.context_.get(), way.pipeline_.get()));
+    if (!made.pipeline_) return {};
+    return made;
+}
+
+void transformation::lane::transform(std::span<point> line) const {
+    oxhost::transform(pipeline_.get(), line);
+}
+void transformation::lane::bring_back(std::span<point> line) const {
+    oxhost::transform(pipeline_.get(), line, PJ_INV);
+}
 
 operation_info transformation::operation() const {
     const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));

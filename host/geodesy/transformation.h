@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,11 @@ public:
     /// In place, all or nothing: when a vertex cannot be transformed or comes out non-finite, the line
     /// is as it was and the answer names the first such vertex.
     std::optional<vertex_failure> apply(polyline& line) const;
+    /// The same, where PROJ's work is done: `image` is what a lane made of the line.
+    std::optional<vertex_failure> accept(polyline& line, polyline image) const;
+    /// May other threads take a share, through lanes, without a difference in any bit or report? Not where
+    /// more than one operation serves the pair, since PROJ remembers which it used.
+    bool can_share() const { return single_operation_ && !target_->lon_wrap; }
     /// Is there a way back at all?
     bool has_return() const { return has_return_; }
     /// Backwards, in place: vertices that cannot be brought back become infinite.
@@ -40,6 +46,22 @@ public:
     const crs& target() const { return *target_; }
     /// Where more than one operation serves the pair (NAD27), the one last used.
     operation_info operation() const;
+
+    /// PROJ's objects for one pair, for one thread.
+    class lane {
+    public:
+        /// While no other thread works with `way`; empty when PROJ cannot copy its objects.
+        static std::optional<lane> of(const transformation& way);
+        void transform(std::span<point> line) const;  ///< vertices without a place become infinite
+        void bring_back(std::span<point> line) const;
+
+    private:
+        struct context_deleter {
+            void operator()(PJ_CONTEXT* context) const { proj_context_destroy(context); }
+        };
+        std::unique_ptr<PJ_CONTEXT, context_deleter> context_;
+        pj_ptr pipeline_;
+    };
 
 private:
     transformation() = default;
@@ -50,6 +72,7 @@ private:
     std::shared_ptr<const crs> target_;
     bool needed_ = true;
     bool has_return_ = true;
+    bool single_operation_ = true;
     pj_ptr pipeline_;
 };
 

@@ -58,11 +58,7 @@ double projections_miss(point place, point image, const transformation& way) {
 }
 
 return_test worst_return(const polyline& line, const polyline& result, const std::vector<std::size_t>& tested,
-                         const transformation& way, double tolerance) {
-    polyline back;
-    back.reserve(tested.size());
-    for (const std::size_t i : tested) back.push_back(result[i]);
-    way.bring_back(back);
+                         const polyline& back, const transformation& way, double tolerance) {
     return_test worst;
     for (std::size_t k = 0; k < tested.size(); ++k) {
         const point& place = line[tested[k]];
@@ -74,7 +70,21 @@ return_test worst_return(const polyline& line, const polyline& result, const std
     return worst;
 }
 
+polyline brought_back(const polyline& result, const std::vector<std::size_t>& tested,
+                      const transformation& way) {
+    polyline back = vertices_at(result, tested);
+    way.bring_back(back);
+    return back;
+}
+
 }  // namespace
+
+polyline vertices_at(const polyline& line, const std::vector<std::size_t>& places) {
+    polyline found;
+    found.reserve(places.size());
+    for (const std::size_t i : places) found.push_back(line[i]);
+    return found;
+}
 
 std::vector<std::size_t> tested_vertices(const polyline& line) {
     constexpr std::size_t short_line = 16, stride = 32;
@@ -90,13 +100,14 @@ std::vector<std::size_t> tested_vertices(const polyline& line) {
 }
 
 return_test test_return(const polyline& line, const polyline& result, const transformation& way,
-                        double tolerance) {
+                        double tolerance, std::optional<polyline> returned) {
     const auto tested = tested_vertices(line);
-    return_test worst = worst_return(line, result, tested, way, tolerance);
+    if (!returned) returned = brought_back(result, tested, way);
+    const return_test worst = worst_return(line, result, tested, *returned, way, tolerance);
     if (!stands_out(worst.metres, tolerance) || tested.size() == line.size()) return worst;
     std::vector<std::size_t> all(line.size());
     for (std::size_t i = 0; i < all.size(); ++i) all[i] = i;
-    return worst_return(line, result, all, way, tolerance);
+    return worst_return(line, result, all, brought_back(result, all, way), way, tolerance);
 }
 
 }  // namespace oxhost

@@ -3,6 +3,7 @@
 /// give finite numbers that mean nothing, and only the way back tells. [ui]
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "base/line.h"
@@ -14,6 +15,8 @@ namespace oxhost {
 /// one in thirty-two.
 std::vector<std::size_t> tested_vertices(const polyline& line);
 
+polyline vertices_at(const polyline& line, const std::vector<std::size_t>& places);
+
 struct return_test {
     std::size_t vertex = 0;  ///< that misses its place by most
     double metres = 0;       ///< infinite where there is no way back
@@ -22,7 +25,8 @@ struct return_test {
 /// The worst of the tested vertices, or of all when one of them stands out. What a datum shift cannot take
 /// back, since lines have no heights, does not count: centimetres where it moves the ellipsoid by hundreds of
 /// metres.
+/// `returned` is where the tested vertices come back to, when that is known.
 return_test test_return(const polyline& line, const polyline& result, const transformation& way,
-                        double tolerance);
+                        double tolerance, std::optional<polyline> returned = {});
 
 }  // namespace oxhost

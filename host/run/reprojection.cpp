@@ -78,6 +78,7 @@ void reprojection::perform(const failure_listener& tell) {
         return order_.policy == on_error::skip && went_on ? not_attempted(results_) : std::vector<scene*>{};
     };
     const served_project serving(project_.get());
+    const lookahead ahead(*project_, scenes_, order_.threads);
     utility_.run(goal_, listed_scenes(*project_), scenes_, after_apply);
 }
 

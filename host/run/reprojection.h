@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "geodesy/reprojector.h"
+#include "run/lookahead.h"
 #include "run/outcome.h"
 #include "run/plug_in.h"
 #include "run/request.h"
@@ -34,6 +35,7 @@ struct order {
     bool keep_lines = false;   ///< the record is to have the lines before and after
     reprojection_rules rules;  ///< for every line of this process from then on
     bool no_undo = false;  ///< keep nothing by which the run could be undone, nor what earlier runs have kept
+    unsigned threads = all_threads();  ///< that transform lines; the results are those of one
     std::filesystem::path bundle;
 };
 
