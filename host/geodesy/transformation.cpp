@@ -38,7 +38,7 @@ bool judge_inverse(const crs& system) {
 }
 
 /// Of several operations PROJ describes none before the first place is transformed.
-bool is_single(PJ* pipeline) {
+bool has_one_operation(PJ* pipeline) {
     const char* described = proj_pj_info(pipeline).definition;
     return described && std::string_view(described) != "unavailable until proj_trans is called";
 }
@@ -110,7 +110,7 @@ std::shared_ptr<const transformation> transformation::prepare(std::string_view s
         throw std::invalid_argument(words("нет пути ", "no transformation ") + pair + " (" +
                                     take_proj_complaint() + ')');
     }
-    made->single_operation_ = is_single(made->pipeline_.get());
+    made->single_operation_ = has_one_operation(made->pipeline_.get());
     return made;
 }
 
@@ -179,7 +179,7 @@ void transformation::lane::bring_back(std::span<point> line) const {
     oxhost::transform(pipeline_.get(), line, PJ_INV);
 }
 
-operation_info transformation::operation() const {
+operation_info transformation::describe() const {
     const pj_ptr used(proj_trans_get_last_used_operation(pipeline_.get()));
     const PJ_PROJ_INFO info = proj_pj_info(used ? used.get() : pipeline_.get());
     operation_info operation;
@@ -195,6 +195,12 @@ operation_info transformation::operation() const {
         operation.accuracy = *source.accuracy + *target.accuracy;
     }
     return operation;
+}
+
+operation_info transformation::operation() const {
+    if (!single_operation_) return describe();
+    if (!described_) described_ = describe();
+    return *described_;
 }
 
 bool has_inverse(std::string_view proj4) {

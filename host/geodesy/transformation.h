@@ -46,6 +46,8 @@ public:
     const crs& target() const { return *target_; }
     /// Where more than one operation serves the pair (NAD27), the one last used.
     operation_info operation() const;
+    /// Does one operation serve all places of the pair?
+    bool is_single() const { return single_operation_; }
 
     /// PROJ's objects for one pair, for one thread.
     class lane {
@@ -68,11 +70,14 @@ private:
     static std::shared_ptr<const transformation> prepare(std::string_view source, std::string_view target);
     std::optional<vertex_failure> first_failure(const polyline& before, const polyline& after) const;
 
+    operation_info describe() const;
+
     std::shared_ptr<const crs> source_;
     std::shared_ptr<const crs> target_;
     bool needed_ = true;
     bool has_return_ = true;
     bool single_operation_ = true;
+    mutable std::optional<operation_info> described_;  ///< once asked for, where it stays the same
     pj_ptr pipeline_;
 };
 

@@ -28,6 +28,7 @@ void judge_way(judgement& judged, const record& told, std::size_t i) {
 /// projections, the place decides.
 operation_info operation_of(const scene_result& result, const polyline& before, const std::string& target) {
     const auto way = transformation::between(result.source, target);
+    if (way->is_single()) return way->operation();
     polyline copy = before.empty() ? polyline() : polyline{before.back()};
     way->apply(copy);
     return way->operation();
@@ -45,11 +46,11 @@ judgement judge(const record& told, std::size_t i) {
     judged.planar_before = measured(result.source, [&] { return planar_length(before, result.source); });
     judged.planar_after = measured(now, [&] { return planar_length(after, now); });
     if (result.came_to != outcome::reprojected) return judged;
+    // first, while the segments of this line are remembered
+    const auto share = measured(now, [&] { return length_distortion(after, now); });
+    if (share && !crs_of(now)->geographic) judged.scale_error_percent = 100 * *share;
     judge_way(judged, told, i);
     judged.operation = operation_of(result, before, told.goal.proj4);
-    if (crs_of(now)->geographic) return judged;
-    if (const auto share = measured(now, [&] { return length_distortion(after, now); }))
-        judged.scale_error_percent = 100 * *share;
     return judged;
 }
 
