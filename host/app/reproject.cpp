@@ -169,7 +169,7 @@ void add_reproject(CLI::App& app, action& chosen) {
                      words("Сколько потоков пересчитывают линии (по умолчанию все ядра); результат тот же",
                            "Threads that transform lines (default: all cores); the results are the same"))
         ->type_name("N")
-        ->check(CLI::Range(1U, 256U));
+        ->check(CLI::Range(1U, 256U).description(""));
     add_overwrite(*command, options->overwrite);
     command->add_flag("--quiet", options->console.quiet,
                       words("Сообщать только ошибки и вопросы", "Say nothing but errors and questions"));
