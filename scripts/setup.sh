@@ -9,7 +9,8 @@ packages=(
 )
 window_packages=(qt6-base-dev libqt6svg6 qt6-translations-l10n libgl-dev fonts-dejavu-core)
 test_packages=(
-    clang clang-format clang-tidy git libgtest-dev libgmock-dev googletest locales g++-mingw-w64-x86-64 wine64
+    clang clang-format clang-tidy git libgtest-dev libgmock-dev googletest locales desktop-file-utils man-db
+    g++-mingw-w64-x86-64 wine64
 )
 test_locales=("ru_RU UTF-8" "ru_RU CP1251" "de_DE UTF-8")
 

@@ -17,10 +17,7 @@ constexpr std::size_t widest_line = 110;
 constexpr std::size_t widest_left_column = 28;
 constexpr std::size_t indent = 2;
 
-struct entry {
-    std::string left;
-    std::string description;
-};
+using entry = help_entry;
 
 /// "--scene INDEX|CAPTION ...", or the placeholder alone of a word without an option's name.
 std::string form_of(const CLI::Option& option) {
@@ -42,16 +39,20 @@ entry entry_of(const CLI::Option& option) {
     return {form_of(option), std::move(description)};
 }
 
+std::vector<const CLI::Option*> positionals(const CLI::App& app) {
+    return app.get_options([](const CLI::Option* each) { return each->get_positional(); });
+}
+
 class bilingual_help final : public CLI::FormatterBase {
 public:
     std::string make_help(const CLI::App* app, std::string name, CLI::AppFormatMode) const override {
         std::string help = usage(*app, name) + paragraph(app->get_description());
-        help += section(words("Аргументы", "Arguments"), entries(*app, true));
-        help += section(words("Параметры", "Options"), entries(*app, false));
+        help += section(words("Аргументы", "Arguments"), help_entries(*app, true));
+        help += section(words("Параметры", "Options"), help_entries(*app, false));
         std::vector<entry> commands;
         for (const CLI::App* each : app->get_subcommands(std::function<bool(const CLI::App*)>())) {
             if (each->get_name().empty())  // a group of options
-                help += section(each->get_description(), entries(*each, false));
+                help += section(each->get_description(), help_entries(*each, false));
             else
                 commands.push_back({each->get_name(), each->get_description()});
         }
@@ -103,22 +104,18 @@ private:
         }
         return lines;
     }
-
-    static std::vector<const CLI::Option*> positionals(const CLI::App& app) {
-        return app.get_options([](const CLI::Option* each) { return each->get_positional(); });
-    }
-
-    static std::vector<entry> entries(const CLI::App& app, bool positional) {
-        std::vector<entry> found;
-        for (const CLI::Option* each : app.get_options())
-            if (each->get_positional() == positional && !each->get_group().empty() &&
-                !(app.get_name().empty() && each == app.get_help_ptr()))
-                found.push_back(entry_of(*each));
-        return found;
-    }
 };
 
 }  // namespace
+
+std::vector<help_entry> help_entries(const CLI::App& app, bool positional) {
+    std::vector<entry> found;
+    for (const CLI::Option* each : app.get_options())
+        if (each->get_positional() == positional && !each->get_group().empty() &&
+            !(app.get_name().empty() && each == app.get_help_ptr()))
+            found.push_back(entry_of(*each));
+    return found;
+}
 
 void settle_language(int argc, const char* const* argv) {
     constexpr std::string_view option = "--lang";

@@ -64,6 +64,9 @@ int run(int argc, char** argv) {
         words("Версии программы и её библиотек", "Versions of the program and its libraries"));
     app.footer(std::string(closing_words));
     app.require_subcommand(0, 1);
+    // for those who install the program
+    const CLI::Option* wants_page = app.add_flag("--manual-page")->group("");
+    const CLI::Option* wants_completion = app.add_flag("--bash-completion")->group("");
     add_language(app);
     action chosen;
     for (const auto add : {add_open, add_import, add_list, add_reproject, add_export, add_describe,
@@ -75,6 +78,10 @@ int run(int argc, char** argv) {
         if (e.get_exit_code() == answer(exit_code::done)) return app.exit(e);  // --help, --version
         std::cerr << "oxhost: " << usage_line(app, e) << '\n';
         return answer(exit_code::usage);
+    }
+    if (*wants_page || *wants_completion) {
+        std::cout << (*wants_page ? manual_page(app) : bash_completion(app));
+        return answer(exit_code::done);
     }
     if (chosen) return answer(chosen());
     std::cerr << "oxhost: "
